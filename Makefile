@@ -1,0 +1,78 @@
+# Forwards to CMake; every target is a command that a user may call. `make help` lists them.
+SHELL := /bin/bash
+.DEFAULT_GOAL := help
+JOBS ?= $(shell nproc)
+export CTEST_PARALLEL_LEVEL ?= $(JOBS)
+# Set to an empty value to leave the machine's packages alone.
+INSTALL ?= yes
+BUILD := build/dev
+
+# packages(SET): installs what is missing of one of the package sets
+define packages
+@if [ -n "$(INSTALL)" ]; then tools/install_packages.sh $(1); fi
+endef
+
+define build
+cmake --preset $(1) --log-level=WARNING >/dev/null
+cmake --build --preset $(1) -j $(JOBS) $(2)
+endef
+
+.PHONY: help run test check bench regenerate install format tidy clean
+.PHONY: check-clang check-asan check-tsan check-tidy
+
+help: ## this list
+	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 14
+
+run: ## install what is missing, build, print the tree of a sample line card
+	$(call packages,build)
+	cmake --preset release --log-level=WARNING >/dev/null
+	cmake --build --preset release -j $(JOBS) --target invctl lib_inv_parser
+	build/release/tools/invctl/invctl tree inventories/line_card_48.xml
+
+test: ## one build and its tests
+	$(call packages,build test)
+	$(call build,dev)
+	ctest --preset dev
+
+check: check-clang check-asan check-tsan check-tidy ## second compiler, sanitizers, the slow rest
+
+check-clang: ## build with the second compiler
+	$(call packages,build test check)
+	$(call build,clang)
+
+check-asan: ## all tests under the address and undefined-behaviour sanitizers
+	$(call packages,build test check)
+	$(call build,asan-ubsan)
+	ctest --preset asan-ubsan
+
+check-tsan: ## the locked entry points under the thread sanitizer
+	$(call packages,build test check)
+	$(call build,tsan,--target tsan_tests)
+	ctest --preset tsan -L threads
+
+check-tidy: ## formatting
+	$(call packages,build test check)
+	tools/check_format.sh
+
+bench: ## benchmarks: open and close of documents with 1,000 to 100,000 entities
+	$(call packages,build test)
+	$(call build,dev,--target inv_bench)
+	$(BUILD)/bench/inv_bench
+
+regenerate: ## rewrite the generated sources and documents
+	$(call packages,build test)
+	$(call build,dev,--target schemac)
+	$(BUILD)/tools/schemac/schemac schema/OrvelianInventory.xsd --source-dir shared_pkg/common/schema/parser/src --header-dir shared_pkg/common/schema/parser/include/inv_parser
+	tools/trace_docs.sh > docs/trace-messages.md
+
+install: ## install library, platform, command and sample inventories (DESTDIR, PREFIX)
+	$(call packages,build)
+	cmake --preset release $(if $(PREFIX),-DCMAKE_INSTALL_PREFIX=$(PREFIX)) --log-level=WARNING >/dev/null
+	cmake --build --preset release -j $(JOBS)
+	cmake --install build/release
+
+format: ## format all sources
+	tools/check_format.sh --fix
+
+clean: ## remove every build
+	rm -rf build
