@@ -1,0 +1,182 @@
+#include "frame/file_memory.h"
+
+#include "frame/chunk_ranges.h"
+#include "inv_platform/system_memory.h"
+
+#include <stdint.h>
+#include <string.h>
+
+namespace inv::frame
+{
+
+namespace
+{
+
+constexpr size_t page_size = 4096;
+constexpr size_t first_chunk_size = size_t{64} * 1024;
+constexpr size_t largest_chunk_size = size_t{4} * 1024 * 1024;
+
+// A request above this part of the next chunk gets a chunk of its own, so that no rest of a chunk that is
+// left behind is larger.
+constexpr size_t single_chunk_part = 4;
+
+static_assert(sizeof(chunk) % record_alignment == 0, "records follow the header directly");
+
+// Memory of the file being loaded; null outside a load and for handles without side record.
+file_memory *loading;
+
+char *contents(chunk *of)
+{
+    return reinterpret_cast<char *>(of + 1);
+}
+
+chunk *map_chunk(size_t size)
+{
+    void *pages = memory::map(size);
+    if (pages == nullptr)
+        return nullptr;
+    if (!add_chunk_range(pages, size)) {
+        memory::unmap(pages, size);
+        return nullptr;
+    }
+    auto *made = static_cast<chunk *>(pages);
+    made->size = size;
+    return made;
+}
+
+void unmap_chunks(chunk *list)
+{
+    while (list != nullptr) {
+        chunk *next = list->next;
+        remove_chunk_range(list);
+        memory::unmap(list, list->size);
+        list = next;
+    }
+}
+
+void *take_single_chunk(file_memory *memory, size_t size)
+{
+    size_t whole = (size + sizeof(chunk) + page_size - 1) & ~(page_size - 1);
+    chunk *made = map_chunk(whole);
+    if (made == nullptr)
+        return nullptr;
+    made->next = memory->single;
+    memory->single = made;
+    return contents(made);
+}
+
+// Goes on to the chunk behind the current one, which a failed load may have left.
+bool next_chunk(file_memory *memory, chunk *next, size_t size)
+{
+    if (next == nullptr) {
+        next = map_chunk(size);
+        if (next == nullptr)
+            return false;
+        (memory->current == nullptr ? memory->first : memory->current->next) = next;
+    }
+    memory->current = next;
+    memory->free_begin = contents(next);
+    memory->free_end = reinterpret_cast<char *>(next) + next->size;
+    return true;
+}
+
+size_t size_after(const chunk *current)
+{
+    if (current == nullptr)
+        return first_chunk_size;
+    return current->size < largest_chunk_size ? current->size * 2 : largest_chunk_size;
+}
+
+void *take(file_memory *memory, size_t size)
+{
+    if (size > SIZE_MAX / 2)
+        return nullptr;
+    size = size == 0 ? record_alignment : (size + record_alignment - 1) & ~(record_alignment - 1);
+    if (size > static_cast<size_t>(memory->free_end - memory->free_begin)) {
+        chunk *next = memory->current == nullptr ? memory->first : memory->current->next;
+        size_t next_size = next == nullptr ? size_after(memory->current) : next->size;
+        if (size > next_size / single_chunk_part)
+            return take_single_chunk(memory, size);
+        if (!next_chunk(memory, next, next_size))
+            return nullptr;
+    }
+    void *taken = memory->free_begin;
+    memory->free_begin += size;
+    return taken;
+}
+
+// Makes everything zero and unused again.
+void clear(file_memory *memory)
+{
+    unmap_chunks(memory->single);
+    memory->single = nullptr;
+    for (chunk *each = memory->first; memory->current != nullptr; each = each->next) {
+        bool is_last = each == memory->current;
+        char *end = is_last ? memory->free_begin : reinterpret_cast<char *>(each) + each->size;
+        memset(contents(each), 0, static_cast<size_t>(end - contents(each)));
+        if (is_last)
+            memory->current = nullptr;
+    }
+    memory->free_begin = memory->free_end = nullptr;
+}
+
+}  // namespace
+
+}  // namespace inv::frame
+
+namespace inv
+{
+
+void *record_request(size_t size) noexcept
+{
+    return frame::loading != nullptr ? frame::take(frame::loading, size) : memory::request(size);
+}
+
+void record_free(void *record) noexcept
+{
+    if (record != nullptr && !frame::is_in_chunk(record))
+        memory::release(record);
+}
+
+void begin_load(inv_xml_handle *handle) noexcept
+{
+    frame::side_record *side = frame::find_side_record(handle);
+    frame::loading = side == nullptr ? nullptr : &side->memory;
+    if (frame::loading == nullptr || !frame::loading->is_discarded)
+        return;
+    // The one pointer that a failed load leaves in the handle; the next load may be of another kind.
+    handle->module_record = nullptr;
+    frame::clear(frame::loading);
+}
+
+void end_load(bool failed) noexcept
+{
+    if (frame::loading != nullptr) {
+        // What an earlier load built for good stays, whatever becomes of later ones.
+        frame::loading->is_kept = frame::loading->is_kept || !failed;
+        frame::loading->is_discarded = !frame::loading->is_kept;
+    }
+    frame::loading = nullptr;
+}
+
+void release_file_memory(const inv_xml_handle *handle) noexcept
+{
+    frame::side_record *side = frame::find_side_record(handle);
+    if (side == nullptr)
+        return;
+    if (frame::loading == &side->memory)
+        frame::loading = nullptr;
+    // The tables go first: they may look at what they index.
+    frame::file_memory memory = side->memory;
+    frame::remove_side_record(side);
+    frame::unmap_chunks(memory.first);
+    frame::unmap_chunks(memory.single);
+}
+
+void handle_forget(inv_xml_handle *handle) noexcept
+{
+    release_file_memory(handle);
+    record_free(handle);
+}
+
+}  // namespace inv

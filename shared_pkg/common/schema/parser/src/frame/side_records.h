@@ -1,0 +1,72 @@
+// What the library keeps privately about a handle that its registry made. Found by the handle's address;
+// a handle that a client put together itself has none.
+#ifndef FRAME_SIDE_RECORDS_H
+#define FRAME_SIDE_RECORDS_H
+
+#include "inv_parser/handle.h"
+
+#include <stddef.h>
+#include <stdint.h>
+
+namespace inv
+{
+
+// Tables that make queries on a handle fast; each subsystem owns its own.
+enum class side_table : uint8_t { eid_lookup, i2c_slots, pcie_slots, tree_growth };
+inline constexpr size_t side_table_count = 4;
+
+using side_table_release = void (*)(void *table);
+
+// The table kept for a handle; null when there is none.
+void *get_side_table(const inv_xml_handle *handle, side_table which) noexcept;
+
+// Keeps a table in place of the one before, which is released. It is released with the file's memory, or
+// when replaced. False when the handle has no side record: the caller keeps the table.
+bool set_side_table(const inv_xml_handle *handle, side_table which, void *table,
+                    side_table_release release) noexcept;
+
+// Which kind of document was loaded into the handle, in the loaders' own numbers; 0: none that is known.
+uint8_t loaded_kind(const inv_xml_handle *handle) noexcept;
+void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind) noexcept;
+
+}  // namespace inv
+
+namespace inv::frame
+{
+
+struct chunk {
+    chunk *next;
+    size_t size;  // octets, this header included
+};
+
+// Memory of one file. Chunks are filled one after the other; those behind `current` are zero and unused.
+struct file_memory {
+    chunk *first;
+    chunk *current;    // the one being filled; null before the first
+    chunk *single;     // chunks that hold one large request each
+    char *free_begin;  // rest of `current`
+    char *free_end;
+    bool is_kept;       // a load succeeded: nothing in here may be cleared
+    bool is_discarded;  // only loads that failed have built here
+};
+
+struct side_record {
+    const inv_xml_handle *handle;
+    file_memory memory;
+    void *tables[side_table_count];
+    side_table_release table_releases[side_table_count];
+    uint8_t kind;
+};
+
+// Null when the handle has none, or is null.
+side_record *find_side_record(const inv_xml_handle *handle) noexcept;
+
+// Gives a new handle its side record; false, and nothing done, when memory is out.
+bool add_side_record(const inv_xml_handle *handle) noexcept;
+
+// Releases the record's tables and the record. Its file memory is already empty.
+void remove_side_record(side_record *record) noexcept;
+
+}  // namespace inv::frame
+
+#endif

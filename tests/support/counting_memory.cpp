@@ -1,0 +1,116 @@
+#include "support/counting_memory.h"
+
+#include "inv_platform/system_memory.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <sys/mman.h>
+
+namespace {
+
+std::atomic<uint64_t> request_count;
+std::atomic<uint64_t> live_count;
+std::atomic<uint64_t> mapped;
+std::atomic<uint64_t> fail_number;
+std::atomic<bool> fail_all_after;
+std::atomic<bool> has_failed;
+
+// True when the request now made has to fail.
+bool refuse()
+{
+    uint64_t number = ++request_count;
+    uint64_t wanted = fail_number;
+    if (wanted == 0 || number < wanted || (number > wanted && !fail_all_after))
+        return false;
+    has_failed = true;
+    return true;
+}
+
+}  // namespace
+
+namespace counting_memory {
+
+uint64_t requests()
+{
+    return request_count;
+}
+
+uint64_t live()
+{
+    return live_count;
+}
+
+uint64_t mapped_octets()
+{
+    return mapped;
+}
+
+void fail_at(uint64_t n, bool all_after)
+{
+    request_count = 0;
+    has_failed = false;
+    fail_all_after = all_after;
+    fail_number = n;
+}
+
+bool failed()
+{
+    return has_failed;
+}
+
+void reset()
+{
+    fail_at(0);
+}
+
+}  // namespace counting_memory
+
+namespace inv::memory {
+
+void *request(size_t size)
+{
+    if (refuse())
+        return nullptr;
+    void *block = calloc(1, size);
+    if (block != nullptr)
+        ++live_count;
+    return block;
+}
+
+void *resize(void *block, size_t size)
+{
+    if (refuse())
+        return nullptr;
+    void *grown = realloc(block, size);
+    if (block == nullptr && grown != nullptr)
+        ++live_count;
+    return grown;
+}
+
+void release(void *block)
+{
+    if (block != nullptr)
+        --live_count;
+    free(block);
+}
+
+void *map(size_t size)
+{
+    if (refuse())
+        return nullptr;
+    void *pages = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (pages == MAP_FAILED)
+        return nullptr;
+    ++live_count;
+    mapped += size;
+    return pages;
+}
+
+void unmap(void *pages, size_t size)
+{
+    --live_count;
+    mapped -= size;
+    munmap(pages, size);
+}
+
+}  // namespace inv::memory
