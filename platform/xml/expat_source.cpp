@@ -1,0 +1,372 @@
+// Events by way of expat.
+//
+// Expat pushes; the reader pulls. What expat's handlers report is queued in memory that is used
+// again once the queue has drained. A full queue suspends the parser, so neither a long run of
+// small elements in one chunk nor an entity that expands far beyond its size makes it grow; only a
+// single tag or run of text may. Names are taken as they stand: namespaces are the reader's.
+#include "characters.h"
+#include "event_source.h"
+#include "growing_array.h"
+#include "inv_platform/xml_runtime.h"
+
+#include <algorithm>
+#include <cstring>
+#include <expat.h>
+#include <new>
+#include <strings.h>
+
+namespace inv::xml
+{
+
+namespace
+{
+
+constexpr size_t queue_octets = 64 * 1024;
+constexpr size_t queue_events = 1024;
+constexpr size_t greatest_chunk = size_t{64} << 20;
+
+struct queued_attribute {
+    text_span name;
+    text_span value;
+};
+
+struct queued_event {
+    event_kind kind;
+    bool significant;
+    position place;
+    position significant_place;
+    text_span text;  // name of a tag, or the text
+    text_span markup;
+    size_t first_attribute;
+    size_t attribute_count;
+};
+
+struct expat_source {
+    XML_Parser parser;
+    input *in;
+    size_t chunk_size;
+    bool first_chunk_seen;
+    bool last_chunk_fed;
+    bool paused;           // the parser is suspended until the queue has drained
+    bool aborted;          // a handler gave up; `ending` says why
+    bool finished;         // `ending` follows the queue
+    bool foreign_markup;   // the declaration names another encoding than UTF-8
+    bool byte_order_mark;  // of UTF-8, which expat counts as a character of line 1
+    event ending;
+    char reason[128];
+    growing_array<queued_event> events;
+    size_t next;
+    growing_array<queued_attribute> attributes;
+    growing_array<char> octets;
+    growing_array<tag_attribute> delivered;
+};
+
+position here(const expat_source &source)
+{
+    XML_Index offset = XML_GetCurrentByteIndex(source.parser);
+    uint64_t line = XML_GetCurrentLineNumber(source.parser);
+    uint64_t column = XML_GetCurrentColumnNumber(source.parser) + 1;
+    if (line == 1 && source.byte_order_mark && column > 1)
+        --column;
+    return {line, column, offset < 0 ? 0 : static_cast<uint64_t>(offset)};
+}
+
+void end_with(expat_source &source, int32_t status, std::string_view reason)
+{
+    source.finished = true;
+    source.ending = {};
+    source.ending.kind = status == XB_OK ? event_kind::end_of_document : event_kind::failure;
+    source.ending.status = status;
+    source.ending.reason = reason;
+    source.ending.place = here(source);
+}
+
+// Ends the parse from inside a handler.
+void abort_with(expat_source &source, int32_t status, std::string_view reason)
+{
+    if (source.aborted)
+        return;
+    source.aborted = true;
+    end_with(source, status, reason);
+    XML_StopParser(source.parser, XML_FALSE);
+}
+
+void pause_when_full(expat_source &source)
+{
+    if (source.paused || (source.octets.count < queue_octets && source.events.count < queue_events))
+        return;
+    source.paused = true;
+    XML_StopParser(source.parser, XML_TRUE);
+}
+
+// The document's octets from where the present event starts, empty when they cannot be had. Inside
+// an entity's replacement that is the reference.
+std::string_view raw_octets(const expat_source &source)
+{
+    int offset = 0;
+    int size = 0;
+    const char *buffer = XML_GetInputContext(source.parser, &offset, &size);
+    if (source.foreign_markup || buffer == nullptr || offset < 0 || size - offset < 2)
+        return {};
+    // Markup of UTF-16 has a zero octet in one of these places.
+    if (buffer[offset] == '\0' || buffer[offset + 1] == '\0')
+        return {};
+    return std::string_view(buffer + offset, static_cast<size_t>(size - offset));
+}
+
+// The start tag as it stands in the document.
+std::string_view raw_tag(const expat_source &source)
+{
+    std::string_view raw = raw_octets(source);
+    int length = XML_GetCurrentByteCount(source.parser);
+    if (raw.empty() || raw.front() != '<' || length < 0)
+        return {};
+    return raw.substr(0, static_cast<size_t>(length));
+}
+
+bool queue_attributes(expat_source &source, const XML_Char **names_and_values, queued_event &queued)
+{
+    queued.first_attribute = source.attributes.count;
+    for (const XML_Char **item = names_and_values; *item != nullptr; item += 2) {
+        queued_attribute attribute = {};
+        if (!keep_text(source.octets, item[0], attribute.name) ||
+            !keep_text(source.octets, item[1], attribute.value) || !append(source.attributes, attribute))
+            return false;
+    }
+    queued.attribute_count = source.attributes.count - queued.first_attribute;
+    return true;
+}
+
+void queue_tag(expat_source &source, event_kind kind, const XML_Char *name, const XML_Char **attributes)
+{
+    if (source.aborted)
+        return;
+    queued_event queued = {};
+    queued.kind = kind;
+    queued.place = here(source);
+    // The end of an empty-element tag has no octets of its own; it stands where its tag does.
+    if (kind == event_kind::end_tag && source.events.count > 0 && XML_GetCurrentByteCount(source.parser) == 0)
+        queued.place = source.events.items[source.events.count - 1].place;
+    bool kept = keep_text(source.octets, name, queued.text);
+    if (kept && attributes != nullptr && attributes[0] != nullptr) {
+        kept = queue_attributes(source, attributes, queued) &&
+               keep_text(source.octets, raw_tag(source), queued.markup);
+    }
+    if (!kept || !append(source.events, queued))
+        abort_with(source, XB_E_NO_MEMORY, {});
+    else
+        pause_when_full(source);
+}
+
+void XMLCALL on_start_tag(void *user, const XML_Char *name, const XML_Char **attributes)
+{
+    queue_tag(*static_cast<expat_source *>(user), event_kind::start_tag, name, attributes);
+}
+
+void XMLCALL on_end_tag(void *user, const XML_Char *name)
+{
+    queue_tag(*static_cast<expat_source *>(user), event_kind::end_tag, name, nullptr);
+}
+
+// Expat reports line feeds alone, so white space in front of other text is on the same line.
+position place_of_first_significant(const expat_source &source, std::string_view text)
+{
+    position place = here(source);
+    std::string_view raw = raw_octets(source);
+    if (!raw.empty() && raw.front() == text.front() && raw.front() != '&') {
+        size_t blanks = text.find_first_not_of(white_space);
+        place.column += blanks;
+        place.offset += blanks;
+    }
+    return place;
+}
+
+bool queue_text(expat_source &source, std::string_view text)
+{
+    bool joins =
+        source.events.count > 0 && source.events.items[source.events.count - 1].kind == event_kind::text;
+    if (!joins) {
+        queued_event queued = {};
+        queued.kind = event_kind::text;
+        queued.place = here(source);
+        queued.text.start = source.octets.count;
+        if (!append(source.events, queued))
+            return false;
+    }
+    queued_event &queued = source.events.items[source.events.count - 1];
+    if (!queued.significant && text.find_first_not_of(white_space) != std::string_view::npos) {
+        queued.significant = true;
+        queued.significant_place = place_of_first_significant(source, text);
+    }
+    if (!append_text(source.octets, text))
+        return false;
+    queued.text.length += text.size();
+    return true;
+}
+
+void XMLCALL on_text(void *user, const XML_Char *text, int length)
+{
+    expat_source &source = *static_cast<expat_source *>(user);
+    if (source.aborted || length <= 0)
+        return;
+    if (!queue_text(source, std::string_view(text, static_cast<size_t>(length))))
+        abort_with(source, XB_E_NO_MEMORY, {});
+    else
+        pause_when_full(source);
+}
+
+void XMLCALL on_declaration(void *user, const XML_Char *, const XML_Char *encoding, int)
+{
+    expat_source &source = *static_cast<expat_source *>(user);
+    if (encoding != nullptr && strcasecmp(encoding, "UTF-8") != 0 && strcasecmp(encoding, "US-ASCII") != 0)
+        source.foreign_markup = true;
+}
+
+// A reference whose text is not known would silently leave a hole in a value.
+void XMLCALL on_skipped_entity(void *user, const XML_Char *, int is_parameter_entity)
+{
+    if (!is_parameter_entity)
+        abort_with(*static_cast<expat_source *>(user), XB_E_MALFORMED, "undefined entity");
+}
+
+int XMLCALL on_external_entity(XML_Parser parser, const XML_Char *, const XML_Char *, const XML_Char *,
+                               const XML_Char *)
+{
+    abort_with(*static_cast<expat_source *>(XML_GetUserData(parser)), XB_E_MALFORMED,
+               "external entities are not loaded");
+    return XML_STATUS_ERROR;
+}
+
+XML_Status feed_chunk(expat_source &source)
+{
+    void *buffer = XML_GetBuffer(source.parser, static_cast<int>(source.chunk_size));
+    if (buffer == nullptr)
+        return XML_STATUS_ERROR;
+    int error = 0;
+    ptrdiff_t count = input_read(*source.in, buffer, source.chunk_size, &error);
+    if (count < 0) {
+        source.aborted = true;
+        end_with(source, XB_E_FILE_READ, strerror_r(error, source.reason, sizeof source.reason));
+        return XML_STATUS_ERROR;
+    }
+    if (!source.first_chunk_seen && count > 0) {
+        source.first_chunk_seen = true;
+        source.byte_order_mark = *static_cast<const unsigned char *>(buffer) == 0xEF;
+    }
+    source.last_chunk_fed = count == 0;
+    return XML_ParseBuffer(source.parser, static_cast<int>(count), count == 0);
+}
+
+void parse_further(expat_source &source)
+{
+    bool resumed = source.paused;
+    source.paused = false;
+    XML_Status status = resumed ? XML_ResumeParser(source.parser) : feed_chunk(source);
+    if (status == XML_STATUS_SUSPENDED || source.aborted)
+        return;
+    source.paused = false;
+    if (status == XML_STATUS_ERROR) {
+        XML_Error error = XML_GetErrorCode(source.parser);
+        const XML_LChar *text = XML_ErrorString(error);
+        end_with(source, error == XML_ERROR_NO_MEMORY ? XB_E_NO_MEMORY : XB_E_MALFORMED,
+                 text == nullptr ? "" : text);
+    } else if (source.last_chunk_fed) {
+        end_with(source, XB_OK, {});
+    }
+}
+
+void refill(expat_source &source)
+{
+    while (source.next == source.events.count && !source.finished) {
+        source.next = 0;
+        source.events.count = 0;
+        source.attributes.count = 0;
+        source.octets.count = 0;
+        parse_further(source);
+    }
+}
+
+bool deliver_attributes(expat_source &source, const queued_event &queued, event &out)
+{
+    source.delivered.count = 0;
+    for (size_t i = 0; i < queued.attribute_count; ++i) {
+        const queued_attribute &attribute = source.attributes.items[queued.first_attribute + i];
+        tag_attribute item = {view(source.octets, attribute.name), view(source.octets, attribute.value)};
+        if (!append(source.delivered, item))
+            return false;
+    }
+    out.attributes = source.delivered.items;
+    out.attribute_count = queued.attribute_count;
+    return true;
+}
+
+void next_event(void *state, event &out)
+{
+    expat_source &source = *static_cast<expat_source *>(state);
+    refill(source);
+    if (source.next == source.events.count) {
+        out = source.ending;
+        return;
+    }
+    const queued_event &queued = source.events.items[source.next++];
+    out = {};
+    out.kind = queued.kind;
+    out.place = queued.place;
+    if (queued.kind == event_kind::text) {
+        out.text = view(source.octets, queued.text);
+        out.significant = queued.significant;
+        out.significant_place = queued.significant_place;
+        return;
+    }
+    out.name = view(source.octets, queued.text);
+    out.markup = view(source.octets, queued.markup);
+    if (!deliver_attributes(source, queued, out)) {
+        source.next = source.events.count;
+        end_with(source, XB_E_NO_MEMORY, {});
+        out = source.ending;
+    }
+}
+
+void destroy(void *state)
+{
+    expat_source *source = static_cast<expat_source *>(state);
+    XML_ParserFree(source->parser);
+    release_array(source->events);
+    release_array(source->attributes);
+    release_array(source->octets);
+    release_array(source->delivered);
+    memory::release(source);
+}
+
+void set_handlers(expat_source &source)
+{
+    XML_SetUserData(source.parser, &source);
+    XML_SetElementHandler(source.parser, on_start_tag, on_end_tag);
+    XML_SetCharacterDataHandler(source.parser, on_text);
+    XML_SetXmlDeclHandler(source.parser, on_declaration);
+    XML_SetSkippedEntityHandler(source.parser, on_skipped_entity);
+    XML_SetExternalEntityRefHandler(source.parser, on_external_entity);
+}
+
+}  // namespace
+
+bool create_expat_source(event_source &source, input &in, size_t chunk_size)
+{
+    void *block = memory::request(sizeof(expat_source));
+    if (block == nullptr)
+        return false;
+    expat_source *made = new (block) expat_source{};
+    constexpr XML_Memory_Handling_Suite memory_suite = {memory::request, memory::resize, memory::release};
+    made->parser = XML_ParserCreate_MM(nullptr, &memory_suite, nullptr);
+    if (made->parser == nullptr) {
+        memory::release(block);
+        return false;
+    }
+    made->in = &in;
+    made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
+    set_handlers(*made);
+    source = {next_event, destroy, made};
+    return true;
+}
+
+}  // namespace inv::xml

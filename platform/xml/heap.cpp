@@ -1,0 +1,154 @@
+#include "heap.h"
+
+#include "context.h"
+#include "inv_platform/system_memory.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <new>
+
+namespace inv::xml
+{
+
+struct alignas(16) heap_chunk {
+    heap_chunk *older;
+    size_t capacity;
+    size_t used;
+};
+
+namespace
+{
+
+constexpr size_t alignment = 16;
+constexpr size_t first_chunk_size = 4096;
+constexpr size_t greatest_chunk_size = size_t{1} << 20;
+
+char *octets_of(heap_chunk *chunk)
+{
+    return reinterpret_cast<char *>(chunk) + sizeof(heap_chunk);
+}
+
+heap_chunk *new_chunk(size_t capacity)
+{
+    void *block = memory::request(sizeof(heap_chunk) + capacity);
+    if (block == nullptr)
+        return nullptr;
+    return new (block) heap_chunk{nullptr, capacity, 0};
+}
+
+void push(heap_chunk *&list, heap_chunk *chunk)
+{
+    chunk->older = list;
+    list = chunk;
+}
+
+void *allocate_own_chunk(heap &from, size_t size)
+{
+    heap_chunk *chunk = new_chunk(size);
+    if (chunk == nullptr)
+        return nullptr;
+    push(from.own_chunks, chunk);
+    return octets_of(chunk);
+}
+
+bool add_chunk(heap &from)
+{
+    size_t size = std::max(from.next_chunk_size, first_chunk_size);
+    heap_chunk *chunk = new_chunk(size - sizeof(heap_chunk));
+    if (chunk == nullptr)
+        return false;
+    push(from.newest, chunk);
+    from.next_chunk_size = std::min(size * 2, greatest_chunk_size);
+    return true;
+}
+
+void release_chunks(heap_chunk *&list)
+{
+    while (list != nullptr) {
+        heap_chunk *chunk = list;
+        list = chunk->older;
+        memory::release(chunk);
+    }
+}
+
+}  // namespace
+
+void *heap_allocate(heap &from, size_t size)
+{
+    if (size > static_cast<size_t>(PTRDIFF_MAX) - sizeof(heap_chunk) - alignment)
+        return nullptr;
+    size = (std::max(size, size_t{1}) + alignment - 1) & ~(alignment - 1);
+    // A quarter of a chunk at most is lost when a request does not fit its rest.
+    if (size > std::max(from.next_chunk_size, first_chunk_size) / 4) {
+        void *own = allocate_own_chunk(from, size);
+        if (own != nullptr)
+            from.last = own;
+        return own;
+    }
+    if (from.newest == nullptr || size > from.newest->capacity - from.newest->used) {
+        if (!add_chunk(from))
+            return nullptr;
+    }
+    from.last = octets_of(from.newest) + from.newest->used;
+    from.newest->used += size;
+    return from.last;
+}
+
+char *heap_copy_text(heap &from, std::string_view text)
+{
+    char *copy = static_cast<char *>(heap_allocate(from, text.size() + 1));
+    if (copy == nullptr)
+        return nullptr;
+    if (!text.empty())
+        memcpy(copy, text.data(), text.size());
+    copy[text.size()] = '\0';
+    return copy;
+}
+
+void heap_take_back(heap &from, void *ptr)
+{
+    if (ptr == nullptr || ptr != from.last)
+        return;
+    from.last = nullptr;
+    heap_chunk *own = from.own_chunks;
+    if (own != nullptr && ptr == octets_of(own)) {
+        from.own_chunks = own->older;
+        memory::release(own);
+        return;
+    }
+    from.newest->used = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));
+}
+
+void heap_release(heap &from)
+{
+    release_chunks(from.newest);
+    release_chunks(from.own_chunks);
+    from = {};
+}
+
+}  // namespace inv::xml
+
+using namespace inv::xml;
+
+void *rtxMemHeapAlloc(xb_context *ctx, size_t size)
+{
+    return heap_allocate(ctx->state->memory, size);
+}
+
+void rtxMemHeapFreePtr(xb_context *ctx, void *ptr)
+{
+    heap_take_back(ctx->state->memory, ptr);
+}
+
+xb_data_node *rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data)
+{
+    void *block = heap_allocate(ctx->state->memory, sizeof(xb_data_node));
+    if (block == nullptr)
+        return nullptr;
+    xb_data_node *node = new (block) xb_data_node{data, nullptr, list->tail};
+    (list->tail != nullptr ? list->tail->next : list->head) = node;
+    list->tail = node;
+    ++list->count;
+    return node;
+}

@@ -1,0 +1,24 @@
+// Where a document's octets come from: an open file or the caller's memory.
+#ifndef PLATFORM_XML_INPUT_H
+#define PLATFORM_XML_INPUT_H
+
+#include <cstddef>
+
+namespace inv::xml
+{
+
+struct input {
+    bool open = false;
+    int descriptor = -1;  // -1: octets in memory
+    const char *octets = nullptr;
+    size_t octet_count = 0;  // not yet read
+};
+
+// Reads up to size octets; 0 at the end, -1 on failure with the system's error in *error.
+ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error);
+
+void input_close(input &which);
+
+}  // namespace inv::xml
+
+#endif

@@ -1,0 +1,68 @@
+// The pull reader: events, the reading position and the text in front of it.
+#ifndef PLATFORM_XML_READER_H
+#define PLATFORM_XML_READER_H
+
+#include "event_source.h"
+#include "growing_array.h"
+#include "tags.h"
+
+namespace inv::xml
+{
+
+constexpr size_t no_attribute = SIZE_MAX;
+
+struct reader {
+    event_source source;
+    tag_stack tags;
+
+    // The event read ahead or pushed back, never text.
+    bool ahead;
+    event_kind ahead_kind;
+    position ahead_place;
+
+    // The last tag that was read, for a push-back.
+    bool can_push_back;
+    event_kind last_kind;
+
+    // The text between the last tag and the event read ahead.
+    growing_array<char> text;
+    bool has_text;
+    position text_place;  // its first character, other than white space where there is one
+    bool text_significant;
+    bool text_taken;  // a value decoder has used it
+
+    int32_t failure;  // ends all reading
+    position failure_place;
+    const char *failure_reason;  // not yet handed over as a parameter, or null
+
+    position place;   // where the next error belongs
+    size_t selected;  // attribute of the current tag, counted from its first; or no_attribute
+    bool group_mode;
+};
+
+// Gives back what the reader holds.
+void reader_close(reader &r);
+
+// Reads ahead up to the next event that is not text. Returns the reader's failure, if any, without
+// leaving a trace of it.
+int32_t read_ahead(xb_context_state &state);
+
+// The same for a caller that is about to return the failure: leaves its place and parameter for
+// the error record and makes the event read ahead the present place.
+int32_t read_event(xb_context_state &state);
+
+// The same where no text may stand: XB_E_TEXT_UNEXPECTED for text other than white space.
+int32_t read_tag(xb_context_state &state);
+
+// Takes the tag read ahead: opens its element, or closes the current one.
+void consume_tag(reader &r);
+
+// Where an error of this status belongs now.
+position error_place(xb_context_state &state, int32_t status);
+
+// The place of the selected attribute's name.
+position place_of_selected(reader &r);
+
+}  // namespace inv::xml
+
+#endif
