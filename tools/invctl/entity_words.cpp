@@ -1,0 +1,73 @@
+#include "entity_words.h"
+
+#include <algorithm>
+#include <cctype>
+#include <string_view>
+
+#include "OrvelianInventorySchema.h"
+
+namespace {
+
+constexpr std::string_view type_prefix = "ORVL_ENTITY_TYPE_";
+constexpr std::string_view subtype_prefix = "ORVL_ENTITY_SUBTYPE_";
+constexpr std::string_view owner_prefix = "ORVL_ENTITY_OWNER_TYPE_";
+constexpr uint8_t type_count = 13;
+
+std::string lower(std::string_view text)
+{
+    std::string word(text);
+    std::transform(word.begin(), word.end(), word.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return word;
+}
+
+std::string without_prefix(std::string_view token, std::string_view prefix)
+{
+    return lower(token.starts_with(prefix) ? token.substr(prefix.size()) : token);
+}
+
+}  // namespace
+
+namespace invctl {
+
+std::string type_word(const sch_base_entity_type &entity)
+{
+    return without_prefix(EidType_ToString(entity.type), type_prefix);
+}
+
+std::string subtype_word(const sch_base_entity_type &entity)
+{
+    std::string subtype = without_prefix(EidSubType_ToString(entity.global_subtype), subtype_prefix);
+    std::string type = type_word(entity) + "_";
+    return subtype.starts_with(type) ? subtype.substr(type.size()) : subtype;
+}
+
+std::string owner_word(const sch_base_entity_type &entity)
+{
+    return without_prefix(EntityOwnerType_ToString(entity.owner), owner_prefix);
+}
+
+std::string eid_level(const sch_base_entity_type &entity)
+{
+    return type_word(entity) + "." + subtype_word(entity) + "." + std::to_string(entity.instance);
+}
+
+std::optional<uint8_t> type_of_word(const std::string &word)
+{
+    for (uint8_t type = 0; type < type_count; ++type) {
+        const char *token = EidType_ToString(type);
+        if (lower(word) == without_prefix(token, type_prefix) || word == token || word == std::to_string(type))
+            return type;
+    }
+    return std::nullopt;
+}
+
+std::string all_type_words()
+{
+    std::string words;
+    for (uint8_t type = 0; type < type_count; ++type)
+        words += (type == 0 ? "" : ", ") + without_prefix(EidType_ToString(type), type_prefix);
+    return words;
+}
+
+}  // namespace invctl

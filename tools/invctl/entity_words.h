@@ -1,0 +1,30 @@
+// Schema tokens as the words that people type and read: "ORVL_ENTITY_TYPE_MODULE" is "module".
+#ifndef INVCTL_ENTITY_WORDS_H
+#define INVCTL_ENTITY_WORDS_H
+
+#include <optional>
+#include <string>
+
+#include "inv_parser/inv_parser.h"
+
+namespace invctl {
+
+std::string type_word(const sch_base_entity_type &entity);
+
+// The word of the entity's subtype within its type; of another type's subtype the whole token.
+std::string subtype_word(const sch_base_entity_type &entity);
+
+std::string owner_word(const sch_base_entity_type &entity);
+
+// "module.mother_board.0": one level of an EID.
+std::string eid_level(const sch_base_entity_type &entity);
+
+// The entity type that a word, a token or a number names.
+std::optional<uint8_t> type_of_word(const std::string &word);
+
+// All words of entity types, for messages: "chassis, backplane, ...".
+std::string all_type_words();
+
+}  // namespace invctl
+
+#endif
