@@ -1,0 +1,128 @@
+#include "platform/xml_document.h"
+#include "support/counting_memory.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr const char *small_document =
+    "<!DOCTYPE r [<!ENTITY e 'entity'><!ATTLIST r d CDATA 'default'>]>"
+    "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:p='u' xsi:type='T' a='1' p:b='2'>\n"
+    "<v>12</v><s>some &e; text</s><h>00ff</h><h>0102030405</h><any><x y='z'>w</x></any></r>";
+
+const xb_type_name_row types[] = {{"T", 1}};
+
+int32_t walk_attributes(xb_context *ctx, xb_data_list *declarations)
+{
+    int32_t status = rtXmlpGetXmlnsAttrs(ctx, declarations);
+    if (status == XB_OK)
+        status = rtXmlpGetXSITypeIndex(ctx, types, 1);
+    for (int32_t i = 0; status == XB_OK && i < rtXmlpGetAttributeCount(ctx); ++i) {
+        char *text = nullptr;
+        status = rtXmlpSelectAttribute(ctx, i);
+        if (status == XB_OK)
+            status = rtXmlpDecDynUTF8Str(ctx, &text);
+        rtxErrAddStrParm(ctx, "note");
+        rtxErrSetNewData(ctx, XB_E_ATTRIBUTE_UNKNOWN, "walk", 1);
+    }
+    rtXmlpHideAttributes(ctx);
+    return status;
+}
+
+int32_t decode_item(xb_context *ctx, int32_t index)
+{
+    int32_t number = 0;
+    const char *text = nullptr;
+    xb_octets octets = {};
+    char *any = nullptr;
+    switch (index) {
+    case 0:
+        return rtXmlpDecInt(ctx, &number);
+    case 1:
+        return rtXmlpDecXmlStr(ctx, &text);
+    case 2:
+        return rtXmlpDecDynHexStr(ctx, &octets);
+    default:
+        return rtXmlpDecAny(ctx, &any);
+    }
+}
+
+int32_t walk_elements(xb_context *ctx, xb_data_list *list)
+{
+    const element_table table({"v", "s", "h", "any"});
+    for (;;) {
+        int32_t index = rtXmlpGetNextSeqElemID(ctx, table.rows.data(), table.row_count(),
+                                               table.sequence.data(), 0, -1, false);
+        if (index == XB_END_OF_CONTENT)
+            return rtXmlpMatchEndTag(ctx, -1);
+        int32_t status = index < 0 ? index : decode_item(ctx, index);
+        if (status == XB_OK)
+            status = rtXmlpMatchEndTag(ctx, -1);
+        if (status == XB_OK && rtxDListAppend(ctx, list, ctx) == nullptr)
+            status = XB_E_NO_MEMORY;
+        if (status != XB_OK)
+            return status;
+    }
+}
+
+int32_t walk_document(xb_context *ctx)
+{
+    xb_data_list declarations = {};
+    xb_data_list items = {};
+    rtxStreamMemoryCreateReader(ctx, small_document, strlen(small_document));
+    int32_t status = rtXmlpCreateReader(ctx);
+    if (status == XB_OK)
+        status = rtXmlpMatchStartTag(ctx, "r", -1);
+    if (status == XB_OK)
+        status = walk_attributes(ctx, &declarations);
+    if (status == XB_OK)
+        status = walk_elements(ctx, &items);
+    if (status != XB_OK)
+        return rtxErrSetData(ctx, status, "walk", 2);
+    EXPECT_EQ(declarations.count, 2U);
+    EXPECT_EQ(items.count, 5U);
+    return XB_OK;
+}
+
+// Walks the document with the n-th request failing; returns whether one failed.
+bool walk_with_failure(uint64_t n, bool all_after)
+{
+    uint64_t live = counting_memory::live();
+    counting_memory::fail_at(n, all_after);
+    xb_context ctx = {};
+    int32_t status = rtXmlInitContext(&ctx);
+    if (status == XB_OK)
+        status = walk_document(&ctx);
+    bool failed = counting_memory::failed();
+    counting_memory::reset();
+    EXPECT_TRUE(status == XB_E_NO_MEMORY || status == XB_OK) << "request " << n << ": " << status;
+    if (!failed) {
+        EXPECT_EQ(status, XB_OK);
+    }
+    if (failed && all_after) {
+        EXPECT_EQ(status, XB_E_NO_MEMORY) << "request " << n;
+    }
+    rtxFreeContext(&ctx);
+    EXPECT_EQ(counting_memory::live(), live) << "request " << n;
+    return failed;
+}
+
+TEST(XmlMemoryFailures, every_single_failing_request_is_survived_without_a_leak)
+{
+    uint64_t n = 1;
+    while (walk_with_failure(n, false))
+        ++n;
+    EXPECT_GT(n, 30U);
+}
+
+TEST(XmlMemoryFailures, memory_that_stays_out_ends_the_walk_with_no_memory)
+{
+    uint64_t n = 1;
+    while (walk_with_failure(n, true))
+        ++n;
+    EXPECT_GT(n, 30U);
+}
+
+}  // namespace
