@@ -95,7 +95,7 @@ inv_xml_handle *inv_parser_open_xml_file_v2(uint8_t inv_type, const fru_xml_loc_
  * of the file are released: nothing that was reached through the handle may be used afterwards.
  *
  * A handle whose count is already 0 wraps to 65535 and releases nothing. A handle without a root
- * record of its own kind (a document that could not be decoded) or with a hardware type that names
+ * record (a document that could not be decoded; not a module's) or with a hardware type that names
  * no kind (message 118) leaves the registry but stays allocated, empty.
  *
  * Takes the library lock. Returns 0 always; a null handle is message 119, a lock that cannot be

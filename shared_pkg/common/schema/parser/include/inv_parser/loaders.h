@@ -5,7 +5,9 @@
  * that handle names, builds the unit's record with everything below it, hangs every entity into
  * the tree of root_eid and fills the handle's indexes. What it builds belongs to the file and goes
  * when the handle is released. Returns 0 or the code that fails the open:
- * rtXmlInitContext()'s when no parser context could be made, 1 when no record could be allocated.
+ * rtXmlInitContext()'s when no parser context could be made, 1 when no record could be allocated or
+ * handle is null. The memory of a load that failed serves the handle's next one; until then the
+ * globals below and the handle's module_record keep pointing to its record.
  */
 #ifndef INV_PARSER_LOADERS_H
 #define INV_PARSER_LOADERS_H

@@ -3,6 +3,7 @@
 
 #include "OrvelianInventorySchema.h"
 #include "OrvelianInventorySchemaDec.h"
+#include "access/slot_lookup.h"
 #include "frame/file_memory.h"
 #include "frame/trace.h"
 #include "inv_parser/record_builders.h"
@@ -167,6 +168,7 @@ int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename D
     }
     // Only while the builders run does anything get filed under this handle.
     tree_growth_scope growth;
+    slot_lookup_scope slots(handle);
     parser_set_inv_file_instance(handle);
     Document::build(record, &decoded);
     parser_set_inv_file_instance(nullptr);

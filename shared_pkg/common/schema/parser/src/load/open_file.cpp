@@ -165,8 +165,6 @@ document_kind kind_to_remember(document_kind kind)
 template <class Generation>
 bool load_into(inv_xml_handle *handle, document_kind kind, const open_request &request)
 {
-    // A failed load of another kind may have left a record whose memory serves again now.
-    handle->module_record = nullptr;
     int32_t code = load::actions_of(kind).load(handle);
     if (code != 0) {
         Generation::trace_failed(kind, request, code);
