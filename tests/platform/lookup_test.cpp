@@ -159,6 +159,7 @@ TEST_F(Lookup, pid_patterns_know_star_and_question_mark)
         {"A*B*C", "AxxBxBxC", true},
         {"A*B*C", "AxxCxB", false},
         {"*AB*AB*", "ABxAB", true},
+        {"*AB", "AAB", true},
         {"*AB*AB*", "ABAxB", false},
         {"a*a*a*b", "aaaaaaaaac", false},
         {"A*A", "A", false},

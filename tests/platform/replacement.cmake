@@ -19,3 +19,14 @@ set_tests_properties(platform_replacement.preloaded PROPERTIES TIMEOUT 60 ENVIRO
     "LD_PRELOAD=$<TARGET_FILE:replacement_library>;INV_TEST_PLATFORM=preloaded;ASAN_OPTIONS=verify_asan_link_order=0")
 add_test(NAME platform_replacement.reference COMMAND platform_replacement)
 set_tests_properties(platform_replacement.reference PROPERTIES TIMEOUT 60 ENVIRONMENT "INV_TEST_PLATFORM=reference")
+
+# The same through the library itself.
+add_executable(library_replacement library_replacement_test.cpp)
+target_link_libraries(library_replacement PRIVATE inv_build_flags lib_inv_parser inv_platform GTest::gtest
+                                                  GTest::gtest_main)
+add_dependencies(library_replacement replacement_library)
+add_test(NAME library_replacement.preloaded COMMAND library_replacement)
+set_tests_properties(library_replacement.preloaded PROPERTIES TIMEOUT 60 ENVIRONMENT
+    "LD_PRELOAD=$<TARGET_FILE:replacement_library>;INV_TEST_PLATFORM=preloaded;ASAN_OPTIONS=verify_asan_link_order=0")
+add_test(NAME library_replacement.reference COMMAND library_replacement)
+set_tests_properties(library_replacement.reference PROPERTIES TIMEOUT 60 ENVIRONMENT "INV_TEST_PLATFORM=reference")

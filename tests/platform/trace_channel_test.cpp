@@ -97,6 +97,23 @@ TEST(TraceChannel, a_reader_may_trace_and_still_comes_to_an_end)
     EXPECT_EQ(read_lines(channel).size(), 10u);
 }
 
+TEST(TraceChannel, a_reader_that_overwrites_what_it_reads_goes_on_with_the_oldest_line_left)
+{
+    static std::vector<uint32_t> seen;
+    seen.clear();
+    void *channel = open_channel(400);  // ten lines
+    for (uint32_t i = 0; i < 10; ++i)
+        qtrace_internal(channel, i, 4, 0, "", "\n");
+    auto overwrite = [](void *user, uint32_t id, const char *) {
+        if (seen.empty())
+            for (uint32_t i = 100; i < 105; ++i)
+                qtrace_internal(user, i, 4, 0, "", "\n");
+        seen.push_back(id);
+    };
+    EXPECT_EQ(qtrace_read(channel, overwrite, channel), 6u);
+    EXPECT_EQ(seen, (std::vector<uint32_t>{0, 5, 6, 7, 8, 9}));
+}
+
 TEST(TraceChannel, a_configuration_counts_as_far_as_its_size_reaches)
 {
     void *channel = open_channel();
@@ -218,14 +235,15 @@ TEST(TraceChannel, several_threads_write_while_others_read_and_configure)
             for (int32_t i = 0; i < lines_each; ++i)
                 EXPECT_EQ(qtrace_internal(channel, writer, 6, 1, "sd", "%s %d\n", "line", i), 0);
         });
-    std::thread configurer([channel, &done] {
+    auto configure = [channel, &done] {
         qtrace_configuration config = configuration(0, "never/written");
         while (!done) {
             qtrace_enable_configuration(channel, &config);
             qtrace_set_dump_on_exit(channel, 0);
             qtrace_enable_configuration(channel, nullptr);
         }
-    });
+    };
+    std::thread configurers[] = {std::thread(configure), std::thread(configure)};
     auto check = [channel] {
         std::vector<int32_t> latest(writers, -1);
         for (const trace_line &line : read_lines(channel)) {
@@ -241,7 +259,8 @@ TEST(TraceChannel, several_threads_write_while_others_read_and_configure)
     for (std::thread &one : threads)
         one.join();
     done = true;
-    configurer.join();
+    for (std::thread &one : configurers)
+        one.join();
     check();
     EXPECT_GT(read_lines(channel).size(), 100u);
 }
