@@ -5,6 +5,8 @@ JOBS ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 # Set to an empty value to leave the machine's packages alone.
 INSTALL ?= yes
+# For each fuzz target.
+FUZZ_SECONDS ?= 20
 BUILD := build/dev
 
 # packages(SET): installs what is missing of one of the package sets
@@ -18,7 +20,7 @@ cmake --build --preset $(1) -j $(JOBS) $(2)
 endef
 
 .PHONY: help run test check bench regenerate install format tidy clean
-.PHONY: check-clang check-asan check-tsan check-tidy
+.PHONY: check-clang check-asan check-tsan check-fuzz check-format
 
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 14
@@ -34,7 +36,7 @@ test: ## one build and its tests
 	$(call build,dev)
 	ctest --preset dev
 
-check: check-clang check-asan check-tsan check-tidy ## second compiler, sanitizers, the slow rest
+check: check-format check-clang check-asan check-tsan check-fuzz ## second compiler, sanitizers, the slow rest
 
 check-clang: ## build with the second compiler
 	$(call packages,build test check)
@@ -50,8 +52,13 @@ check-tsan: ## the locked entry points under the thread sanitizer
 	$(call build,tsan,--target tsan_tests)
 	ctest --preset tsan -L threads
 
-check-tidy: ## formatting
-	$(call packages,build test check)
+check-fuzz: ## a minute of fuzzing, starting from the kept corpus
+	$(call packages,build check)
+	$(call build,fuzz,--target fuzz_document fuzz_open fuzz_catalogue)
+	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
+
+check-format: ## formatting of all sources
+	$(call packages,check)
 	tools/check_format.sh
 
 bench: ## benchmarks: open and close of documents with 1,000 to 100,000 entities
