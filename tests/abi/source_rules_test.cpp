@@ -137,11 +137,7 @@ std::string without_line_comments(const std::string &text)
     return std::regex_replace(text, std::regex("//[^\n]*"), "");
 }
 
-// Messages that two places of one entry point share: with and without a subtype in the query, and the
-// leaf's answer beside the array's.
-const std::map<std::string, int> shared_messages = {{"by_subtype_no_root", 2}, {"eid_tree_no_memory", 2}};
-
-TEST(SourceRules, each_trace_message_is_used_in_one_place_unless_it_is_pending_or_shared)
+TEST(SourceRules, each_trace_message_is_used_in_one_place_unless_it_is_pending)
 {
     std::map<int, std::string> names = catalogue();
     ASSERT_EQ(names.size(), 259u);
@@ -155,10 +151,8 @@ TEST(SourceRules, each_trace_message_is_used_in_one_place_unless_it_is_pending_o
         for (std::sregex_iterator it(code.begin(), code.end(), use), end; it != end; ++it)
             ++uses[(*it)[1]];
     }
-    for (const auto &[id, name] : names) {
-        int claimed = shared_messages.contains(name) ? shared_messages.at(name) : 1;
-        EXPECT_EQ(uses[name], pending.contains(id) ? 0 : claimed) << "message " << id << " " << name;
-    }
+    for (const auto &[id, name] : names)
+        EXPECT_EQ(uses[name], pending.contains(id) ? 0 : 1) << "message " << id << " " << name;
 }
 
 }  // namespace

@@ -42,6 +42,28 @@ protected:
     int config = 0;
 };
 
+template <char Kind>
+auto argument_of()
+{
+    if constexpr (Kind == 's')
+        return "text";
+    else if constexpr (Kind == 'd')
+        return 1;
+    else
+        return static_cast<const void *>(nullptr);
+}
+
+// A line of the catalogue with arguments of its kinds.
+template <class Message>
+uint32_t write_line()
+{
+    return []<size_t... Index>(std::index_sequence<Index...>)
+    {
+        return inv::trace<Message>(argument_of<Message::kinds[Index]>()...);
+    }
+    (std::make_index_sequence<sizeof(Message::kinds) - 1>());
+}
+
 }  // namespace
 
 TEST_F(Channel, before_init_there_is_no_handle)
@@ -53,8 +75,27 @@ TEST_F(Channel, before_init_there_is_no_handle)
     EXPECT_EQ(inv_schema_get_qtrace_hdl(nullptr), 22u);
 }
 
+TEST_F(Channel, there_is_no_handle_while_either_the_channel_or_its_dump_is_missing)
+{
+    void *handle = &config;
+    inv::frame::inv_schema_trace_handle = this;
+    EXPECT_EQ(inv_schema_get_qtrace_hdl(&handle), 22u);
+    inv::frame::inv_schema_trace_handle = nullptr;
+    inv::frame::trace_ready = 1;
+    EXPECT_EQ(inv_schema_get_qtrace_hdl(&handle), 22u);
+    EXPECT_EQ(handle, &config);
+    inv::frame::inv_schema_trace_handle = this;
+    EXPECT_EQ(inv_schema_get_qtrace_hdl(&handle), 0u);
+    EXPECT_EQ(handle, this);
+}
+
 TEST_F(Channel, before_init_every_trace_site_is_silent)
 {
+    size_t silent = 0;
+#define INV_TRACE_MESSAGE(id, size, kinds, name, text) silent += write_line<inv::msg::name>() == 22 ? 1 : 0;
+#include "frame/trace_messages.def"
+#undef INV_TRACE_MESSAGE
+    EXPECT_EQ(silent, 259u);
     inv_parser_get_xml_handle(0, 1, 2, "no such unit");
     EXPECT_TRUE(trace_recorder::lines().empty());
     EXPECT_TRUE(trace_recorder::open_calls().empty());

@@ -1,5 +1,6 @@
 // What the queries answer. How they fail: tree_query_failures_test.cpp.
 #include "inv_parser/queries.h"
+#include "inv_parser/release.h"
 #include "inv_parser/tree_internal.h"
 #include "support/counting_memory.h"
 #include "support/failing_lock.h"
@@ -284,6 +285,28 @@ TEST_F(Queries, tree_with_an_owner_keeps_entry_0_when_its_triple_is_the_roots)
     EXPECT_EQ(nullptr, out);
 }
 
+TEST_F(Queries, answer_no_entity_whose_parent_is_not_in_the_tree)
+{
+    root_eid = nullptr;
+    sch_base_entity_type *top = tree.record({3, 1, 0});
+    parser_update_eid_chain(top, nullptr);
+    parser_update_eid_chain(tree.record({9, 1, 1}), top);
+    parser_update_eid_chain(tree.record({9, 1, 2}), tree.record({9, 1, 3}));
+    eid_chain_node *built = tree.handle.root = root_eid;
+    for (uint32_t owner : {owner_all, 1u}) {
+        EXPECT_EQ(0u, by_type(owner, 9));
+        EXPECT_EQ((instances{1}), last_instances());
+        EXPECT_EQ(0u, by_subtype(owner, 9, 1));
+        EXPECT_EQ((instances{1}), last_instances());
+        EXPECT_EQ(0u, tree_of(owner, nullptr));
+        EXPECT_EQ((instances{0, 1}), last_instances());
+    }
+    sch_base_entity_type *record = top;
+    EXPECT_EQ(1u, inv_parser_get_eid_data(&tree.handle, &record, eid_of({{3, 1, 0}, {9, 1, 2}})));
+    EXPECT_EQ(nullptr, record);
+    inv_schema_free_eid_chain_list(built);
+}
+
 TEST_F(Queries, reach_entities_16_and_17_levels_deep)
 {
     grow_chain(tree, 17);
@@ -303,6 +326,38 @@ TEST_F(Queries, reach_entities_16_and_17_levels_deep)
     EXPECT_EQ(17u, count);
 }
 
+TEST_F(Queries, with_an_eid_of_depth_0_17_or_255_find_nothing)
+{
+    grow_chain(tree, 20);
+    EXPECT_EQ(0u, by_type(owner_all, 9));
+    sch_eid_type asked = out[15];
+    for (int depth : {0, 17, 255}) {
+        SCOPED_TRACE(depth);
+        asked.depth = static_cast<uint8_t>(depth);
+        sch_base_entity_type *record = &tree.records[0];
+        EXPECT_EQ(1u, inv_parser_get_eid_data(&tree.handle, &record, asked));
+        EXPECT_EQ(nullptr, record);
+        for (uint32_t owner : {owner_all, 1u}) {
+            count = 0xABCD;
+            EXPECT_EQ(1u, tree_of(owner, &asked));
+            EXPECT_EQ(nullptr, out);
+            EXPECT_EQ(0xABCDu, count);
+        }
+        std::vector<sch_eid_type> several(10, asked);
+        EXPECT_EQ(0u, parser_get_eid_count_by_owner(several.data(), 10, 1));
+    }
+    EXPECT_EQ("", trace_recorder::dump());
+}
+
+TEST_F(Queries, a_leafs_answer_is_no_key_for_its_depth_is_0)
+{
+    grow_owners();
+    sch_eid_type leaf = eid_of({{3, 1, 0}, {9, 70, 4}});
+    EXPECT_EQ(0u, tree_of(owner_all, &leaf));
+    sch_base_entity_type *record = nullptr;
+    EXPECT_EQ(1u, inv_parser_get_eid_data(&tree.handle, &record, *out));
+}
+
 TEST_F(Queries, on_several_handles_may_follow_one_another)
 {
     grow_owners();
@@ -317,6 +372,17 @@ TEST_F(Queries, on_several_handles_may_follow_one_another)
     EXPECT_EQ(7u, count);
     EXPECT_EQ(6, out[6].levels[1].instance);
     inv_parser_free_eid_tree(of_other);
+}
+
+TEST_F(Queries, by_type_leave_their_result_in_the_globals)
+{
+    grow_owners();
+    EXPECT_EQ(0u, by_type(owner_all, 9));
+    EXPECT_EQ(out, global_eid);
+    EXPECT_EQ(7, global_eid_count);
+    EXPECT_EQ(0u, by_subtype(owner_all, 9, 70));
+    EXPECT_EQ(out, global_eid);
+    EXPECT_EQ(7, global_eid_count);
 }
 
 TEST_F(Queries, after_a_filtered_one_leave_the_array_of_all_behind_in_the_global)

@@ -76,7 +76,7 @@ uint32_t inv_parser_get_eid_data(inv_xml_handle *handle, struct sch_base_entity_
  *
  * Takes the library lock (traces 111, 115). Returns 1 with *out null, *count untouched and no trace when
  * no entity has the EID; 1 with both untouched when the handle is null (95 and 112) or has no tree (112),
- * or memory runs out (114). */
+ * or memory runs out (114; for an entity without children there is no line but 113). */
 uint32_t inv_parser_get_eid_tree(inv_xml_handle *handle, uint32_t owner, const sch_eid_type *eid,
                                  sch_eid_type **out, uint32_t *count);
 

@@ -5,31 +5,42 @@
 #include "tree/entity_walk.h"
 #include "tree/pointer_hash.h"
 
+#include <string.h>
+
 namespace inv
 {
 
 namespace
 {
 
-bool is_zero(sch_eid_level_type level)
+// Calls visit(eid, depth) for every EID that the node can be found by: those beginnings of its own EID
+// whose last level is its own triple. Mostly that is the whole one; ancestors with the same triple add
+// theirs, and so do the zeros behind the levels in use when the triple is all zero.
+template <class Visit>
+void visit_paths(eid_chain_node *node, const Visit &visit)
 {
-    return same_level(level, {});
+    sch_eid_level_type own = level_of(node);
+    if (full_subtype(node) != own.subtype)
+        return;
+    sch_eid_type eid;
+    parser_populate_parent_eid_data(node, &eid);
+    uint8_t longest = same_level(own, {}) ? INV_EID_MAX_DEPTH : eid.depth;
+    for (uint8_t depth = 1; depth <= longest; ++depth)
+        if (same_level(eid.levels[depth - 1], own))
+            visit(eid, depth);
 }
 
-// Counts the nodes of a level and below; false when a path does not tell one of them exactly.
-bool count_exact(const eid_chain_node *list, const eid_chain_node *parent, int depth, size_t *count)
+// The start of the hash is an address, so that no document can be made for paths that collide.
+size_t hash_of_path(const void *start, const sch_eid_type &path, uint8_t depth)
 {
-    if (list != nullptr && depth > INV_EID_MAX_DEPTH)
-        return false;
-    for (; list != nullptr; list = list->next_sibling) {
-        const eid_chain_node *climbs_to = list == root_eid ? nullptr : list->parent;
-        if (climbs_to != parent || full_subtype(list) > UINT8_MAX)
-            return false;
-        ++*count;
-        if (!count_exact(list->first_child, list, depth + 1, count))
-            return false;
+    size_t hash = hash_of_pointer(start, depth);
+    for (int i = 0; i < depth; ++i) {
+        sch_eid_level_type level = path.levels[i];
+        uint32_t number = level.type | static_cast<uint32_t>(level.subtype) << 8 |
+                          static_cast<uint32_t>(level.instance) << 16;
+        hash = hash_of_number(hash, number);
     }
-    return true;
+    return hash;
 }
 
 size_t capacity_for(size_t count)
@@ -50,57 +61,49 @@ path_table::~path_table()
 bool path_table::build() noexcept
 {
     size_t count = 0;
-    if (!count_exact(root_eid, nullptr, 1, &count))
-        return false;
+    visit_entities(root_eid, [&](eid_chain_node *node) {
+        visit_paths(node, [&](const sch_eid_type &, uint8_t) { ++count; });
+    });
     size_t capacity = capacity_for(count);
     entries = static_cast<entry *>(memory::request(capacity * sizeof(entry)));
     if (entries == nullptr)
         return false;
     mask = capacity - 1;
-    enter(root_eid, nullptr);
+    visit_entities(root_eid, [this](eid_chain_node *node) { enter(node); });
     return true;
 }
 
-// The entry of the path, or the free one where it belongs.
-path_table::entry *path_table::locate(const eid_chain_node *parent, sch_eid_level_type level) const noexcept
+// The entry of the path's first levels, or the free one where it belongs.
+path_table::entry *path_table::locate(const sch_eid_type &path, uint8_t depth, size_t hash) const noexcept
 {
-    uint32_t number =
-        level.type | static_cast<uint32_t>(level.subtype) << 8 | static_cast<uint32_t>(level.instance) << 16;
-    size_t at = hash_of_pointer(parent, number) & mask;
-    while (entries[at].node != nullptr &&
-           (entries[at].parent != parent || !same_level(level_of(entries[at].node), level)))
-        at = (at + 1) & mask;
+    auto tag = static_cast<uint32_t>(hash >> 32);
+    size_t at = hash & mask;
+    for (; entries[at].node != nullptr; at = (at + 1) & mask) {
+        if (entries[at].hash != tag || entries[at].depth != depth)
+            continue;
+        sch_eid_type own;
+        parser_populate_parent_eid_data(entries[at].node, &own);
+        if (memcmp(own.levels, path.levels, depth * sizeof(path.levels[0])) == 0)
+            break;
+    }
     return &entries[at];
 }
 
-// Of several nodes with one path the first in pre-order gets the entry and stands for the others: what
-// hangs below them is entered below it.
-void path_table::enter(eid_chain_node *list, const eid_chain_node *parent) noexcept
+void path_table::enter(eid_chain_node *node) noexcept
 {
-    for (; list != nullptr; list = list->next_sibling) {
-        entry *found = locate(parent, level_of(list));
+    visit_paths(node, [&](const sch_eid_type &eid, uint8_t depth) {
+        size_t hash = hash_of_path(entries, eid, depth);
+        entry *found = locate(eid, depth, hash);
         if (found->node == nullptr)
-            *found = {parent, list};
-        enter(list->first_child, found->node);
-    }
+            *found = {node, static_cast<uint32_t>(hash >> 32), depth};
+    });
 }
 
 eid_chain_node *path_table::find(const sch_eid_type &eid) const noexcept
 {
-    int depth = eid.depth;
-    if (depth == 0 || depth > INV_EID_MAX_DEPTH)
+    if (eid.depth == 0 || eid.depth > INV_EID_MAX_DEPTH)
         return nullptr;
-    // Levels beyond a node's own are zero in its EID. So an EID that ends in several zero levels is
-    // already answered by the node of the first of them, which comes before those below it.
-    while (depth > 1 && is_zero(eid.levels[depth - 1]) && is_zero(eid.levels[depth - 2]))
-        --depth;
-    eid_chain_node *node = nullptr;
-    for (int i = 0; i < depth; ++i) {
-        node = locate(node, eid.levels[i])->node;
-        if (node == nullptr)
-            return nullptr;
-    }
-    return node;
+    return locate(eid, eid.depth, hash_of_path(entries, eid, eid.depth))->node;
 }
 
 }  // namespace inv

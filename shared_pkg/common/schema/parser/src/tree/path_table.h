@@ -5,11 +5,13 @@
 #include "inv_parser/eid.h"
 
 #include <stddef.h>
+#include <stdint.h>
 
 namespace inv
 {
 
-// Answers exactly as parser_find_entity(root, eid) does: the first node in pre-order with that path.
+// Answers exactly as parser_find_entity(root, eid) does, in every tree: under each EID that a node can be
+// found by stands the first such node in pre-order.
 class path_table
 {
 public:
@@ -18,22 +20,21 @@ public:
     path_table(const path_table &) = delete;
     path_table &operator=(const path_table &) = delete;
 
-    // Takes in the tree of root_eid. False, and the table must not be used, when memory is out or the
-    // tree has what a path does not tell exactly: a subtype above 255, a node deeper than an EID, or a
-    // parent link that is not the way down.
+    // Takes in the tree of root_eid. False, and the table must not be used, when memory is out.
     bool build() noexcept;
 
     eid_chain_node *find(const sch_eid_type &eid) const noexcept;
 
 private:
-    // parent stands for all nodes with the path of the one it points to; null above the first level.
+    // A node, and how many levels of its EID are the path it stands under. Free while node is null.
     struct entry {
-        const eid_chain_node *parent;
         eid_chain_node *node;
+        uint32_t hash;
+        uint8_t depth;
     };
 
-    entry *locate(const eid_chain_node *parent, sch_eid_level_type level) const noexcept;
-    void enter(eid_chain_node *list, const eid_chain_node *parent) noexcept;
+    entry *locate(const sch_eid_type &path, uint8_t depth, size_t hash) const noexcept;
+    void enter(eid_chain_node *node) noexcept;
 
     entry *entries = nullptr;
     size_t mask = 0;

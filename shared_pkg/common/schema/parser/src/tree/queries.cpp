@@ -84,6 +84,13 @@ uint32_t collect(inv_xml_handle *handle, uint32_t owner, const entity_filter &fi
     return 0;
 }
 
+template <class NoMemory>
+uint32_t collect_of_subtype(inv_xml_handle *handle, uint32_t owner, const entity_filter &filter,
+                            uint16_t *count, sch_eid_type **out)
+{
+    return collect<msg::by_subtype_no_root, NoMemory>(handle, owner, filter, count, out);
+}
+
 uint32_t find_record(inv_xml_handle *handle, sch_base_entity_type **out, sch_eid_type *eid)
 {
     if (!enter_tree<msg::eid_data_no_root>(handle))
@@ -93,15 +100,14 @@ uint32_t find_record(inv_xml_handle *handle, sch_base_entity_type **out, sch_eid
     return node == nullptr ? 1 : 0;
 }
 
-// Kept: the tree of a leaf is one record of depth 0, and no owner is looked at.
+// Kept: the tree of a leaf is one record of depth 0, no owner is looked at, and memory running out has no
+// line here.
 uint32_t answer_leaf(const eid_chain_node *leaf, sch_eid_type **out, uint32_t *count)
 {
     trace<msg::eid_tree_leaf>();
     sch_eid_type *record = request_eids(1);
-    if (record == nullptr) {
-        trace<msg::eid_tree_no_memory>();
+    if (record == nullptr)
         return 1;
-    }
     *record = own_eid(leaf, 0);
     *out = record;
     *count = 1;
@@ -193,9 +199,9 @@ uint32_t inv_parser_get_eid_by_type_subtype(inv_xml_handle *handle, uint32_t own
     if (count == nullptr || out == nullptr || !lock_or_trace<msg::by_subtype_lock_failed>())
         return 1;
     uint32_t result = subtype == INV_ANY_SUBTYPE
-                          ? collect<msg::by_subtype_no_root, msg::by_any_subtype_no_memory>(
+                          ? collect_of_subtype<msg::by_any_subtype_no_memory>(
                                 handle, owner, entities_of_type(type), count, out)
-                          : collect<msg::by_subtype_no_root, msg::by_subtype_no_memory>(
+                          : collect_of_subtype<msg::by_subtype_no_memory>(
                                 handle, owner, entities_of_subtype(type, subtype), count, out);
     unlock_or_trace<msg::by_subtype_unlock_failed>();
     return result;
