@@ -25,6 +25,17 @@ constexpr size_t queue_octets = 64 * 1024;
 constexpr size_t queue_events = 1024;
 constexpr size_t greatest_chunk = size_t{64} << 20;
 
+// Values that the document type gives may come to this many octets, or to this many times what has
+// been read of the document; expat bounds entities likewise, but not these.
+constexpr uint64_t free_default_octets = uint64_t{8} << 20;
+constexpr uint64_t greatest_default_factor = 100;
+
+// Of a document type: expat walks through an element's declared attributes for each of its tags, and
+// older releases recurse into entities that consist of one another.
+constexpr size_t most_declarations = 1000;
+
+constexpr std::string_view entity_unknown = "undefined entity";
+
 struct queued_attribute {
     text_span name;
     text_span value;
@@ -47,11 +58,14 @@ struct expat_source {
     size_t chunk_size;
     bool first_chunk_seen;
     bool last_chunk_fed;
-    bool paused;           // the parser is suspended until the queue has drained
-    bool aborted;          // a handler gave up; `ending` says why
-    bool finished;         // `ending` follows the queue
-    bool foreign_markup;   // the declaration names another encoding than UTF-8
-    bool byte_order_mark;  // of UTF-8, which expat counts as a character of line 1
+    bool paused;               // the parser is suspended until the queue has drained
+    bool aborted;              // a handler gave up; `ending` says why
+    bool finished;             // `ending` follows the queue
+    bool foreign_markup;       // the declaration names another encoding than UTF-8
+    bool byte_order_mark;      // of UTF-8, which expat counts as a character of line 1
+    bool unread_declarations;  // the document relies on declarations that stand outside of it
+    uint64_t default_octets;   // of attributes that the document type has given so far
+    size_t declarations;
     event ending;
     char reason[128];
     growing_array<queued_event> events;
@@ -124,11 +138,46 @@ std::string_view raw_tag(const expat_source &source)
     return raw.substr(0, static_cast<size_t>(length));
 }
 
+bool has_entity_reference(std::string_view markup)
+{
+    for (size_t at = markup.find('&'); at != std::string_view::npos; at = markup.find('&', at + 1)) {
+        std::string_view name = markup.substr(at + 1, markup.find(';', at) - at - 1);
+        bool is_known = name.starts_with('#') || name == "amp" || name == "lt" || name == "gt" ||
+                        name == "quot" || name == "apos";
+        if (!is_known)
+            return true;
+    }
+    return false;
+}
+
+// Expat silently leaves a reference out of an attribute value when a declaration that it has not
+// read could explain it. Where that may have happened, and where nobody can tell, the tag is refused.
+bool may_have_holes(const expat_source &source)
+{
+    if (!source.unread_declarations)
+        return false;
+    std::string_view raw = raw_tag(source);
+    return raw.empty() || has_entity_reference(raw);
+}
+
+// A long default value in every tag would make the work grow faster than the document.
+bool defaults_are_bounded(expat_source &source, std::string_view name, std::string_view value)
+{
+    source.default_octets += name.size() + value.size();
+    return source.default_octets <= free_default_octets ||
+           source.default_octets / greatest_default_factor <= here(source).offset;
+}
+
 bool queue_attributes(expat_source &source, const XML_Char **names_and_values, queued_event &queued)
 {
+    const XML_Char **defaults = names_and_values + XML_GetSpecifiedAttributeCount(source.parser);
     queued.first_attribute = source.attributes.count;
     for (const XML_Char **item = names_and_values; *item != nullptr; item += 2) {
         queued_attribute attribute = {};
+        if (item >= defaults && !defaults_are_bounded(source, item[0], item[1])) {
+            abort_with(source, XB_E_MALFORMED, "default values expand too far");
+            return false;
+        }
         if (!keep_text(source.octets, item[0], attribute.name) ||
             !keep_text(source.octets, item[1], attribute.value) || !append(source.attributes, attribute))
             return false;
@@ -149,9 +198,12 @@ void queue_tag(expat_source &source, event_kind kind, const XML_Char *name, cons
         queued.place = source.events.items[source.events.count - 1].place;
     bool kept = keep_text(source.octets, name, queued.text);
     if (kept && attributes != nullptr && attributes[0] != nullptr) {
-        kept = queue_attributes(source, attributes, queued) &&
+        if (may_have_holes(source))
+            abort_with(source, XB_E_MALFORMED, entity_unknown);
+        kept = !source.aborted && queue_attributes(source, attributes, queued) &&
                keep_text(source.octets, raw_tag(source), queued.markup);
     }
+    // The first reason to give up stands.
     if (!kept || !append(source.events, queued))
         abort_with(source, XB_E_NO_MEMORY, {});
     else
@@ -226,7 +278,35 @@ void XMLCALL on_declaration(void *user, const XML_Char *, const XML_Char *encodi
 void XMLCALL on_skipped_entity(void *user, const XML_Char *, int is_parameter_entity)
 {
     if (!is_parameter_entity)
-        abort_with(*static_cast<expat_source *>(user), XB_E_MALFORMED, "undefined entity");
+        abort_with(*static_cast<expat_source *>(user), XB_E_MALFORMED, entity_unknown);
+}
+
+int XMLCALL on_unread_declarations(void *user)
+{
+    static_cast<expat_source *>(user)->unread_declarations = true;
+    return XML_STATUS_OK;
+}
+
+void count_declaration(expat_source &source)
+{
+    if (++source.declarations > most_declarations)
+        abort_with(source, XB_E_MALFORMED, "too many declarations");
+}
+
+// The hole that a reference has left cannot be seen in the value, nor later in the tags that get it.
+void XMLCALL on_attribute_declaration(void *user, const XML_Char *, const XML_Char *, const XML_Char *,
+                                      const XML_Char *default_value, int)
+{
+    expat_source &source = *static_cast<expat_source *>(user);
+    if (source.unread_declarations && default_value != nullptr)
+        abort_with(source, XB_E_MALFORMED, entity_unknown);
+    count_declaration(source);
+}
+
+void XMLCALL on_entity_declaration(void *user, const XML_Char *, int, const XML_Char *, int, const XML_Char *,
+                                   const XML_Char *, const XML_Char *, const XML_Char *)
+{
+    count_declaration(*static_cast<expat_source *>(user));
 }
 
 int XMLCALL on_external_entity(XML_Parser parser, const XML_Char *, const XML_Char *, const XML_Char *,
@@ -345,6 +425,9 @@ void set_handlers(expat_source &source)
     XML_SetCharacterDataHandler(source.parser, on_text);
     XML_SetXmlDeclHandler(source.parser, on_declaration);
     XML_SetSkippedEntityHandler(source.parser, on_skipped_entity);
+    XML_SetNotStandaloneHandler(source.parser, on_unread_declarations);
+    XML_SetAttlistDeclHandler(source.parser, on_attribute_declaration);
+    XML_SetEntityDeclHandler(source.parser, on_entity_declaration);
     XML_SetExternalEntityRefHandler(source.parser, on_external_entity);
 }
 

@@ -155,14 +155,11 @@ int32_t take_hexadecimal(xb_context *ctx, size_t capacity, std::string_view &tex
         return status;
     text = collapsed(whole);
     if (!is_hexadecimal(text)) {
-        status = XB_E_BAD_HEX;
-    } else {
-        *count = static_cast<uint32_t>(std::min(text.size() / 2, size_t{UINT32_MAX}));
-        status = text.size() / 2 > capacity ? XB_E_CONSTRAINT : XB_OK;
-    }
-    if (status != XB_OK)
         add_parameter(*ctx->state, whole);
-    return status;
+        return XB_E_BAD_HEX;
+    }
+    *count = static_cast<uint32_t>(std::min(text.size() / 2, size_t{UINT32_MAX}));
+    return text.size() / 2 > capacity ? XB_E_CONSTRAINT : XB_OK;
 }
 
 int32_t decode_text(xb_context *ctx, char **copy)

@@ -169,6 +169,90 @@ TEST(XmlDocuments, external_entities_are_never_loaded)
     EXPECT_EQ(read_whole("<!DOCTYPE r [<!ENTITY % p SYSTEM '/etc/passwd'> %p;]><r>1</r>").content, "1");
 }
 
+const std::string reference_cases[] = {
+    "<!DOCTYPE r SYSTEM 'not-there.dtd'><r a='1&unknown;2'/>",
+    "<!DOCTYPE r PUBLIC 'p' 'not-there.dtd'><r><b a='&unknown;'/></r>",
+    "<!DOCTYPE r SYSTEM 'not-there.dtd' [<!ENTITY e '1&unknown;2'>]><r a='&e;'/>",
+    "<!DOCTYPE r SYSTEM 'not-there.dtd' [<!ENTITY e '<b a=\"1&unknown;2\"/>'>]><r>&e;</r>",
+    "<!DOCTYPE r SYSTEM 'not-there.dtd' [<!ATTLIST r a CDATA '1&unknown;2'>]><r/>",
+    "<!DOCTYPE r [<!ENTITY % p SYSTEM 'not-there.dtd'> %p;]><r a='1&unknown;2'/>",
+    "<!DOCTYPE r [<!ENTITY % p ''> %p; <!ENTITY skipped 'x'>]><r a='1&skipped;2'/>",
+};
+
+TEST(XmlDocuments, a_reference_in_an_attribute_that_unread_declarations_may_explain_leaves_no_hole)
+{
+    for (const std::string &text : reference_cases) {
+        EXPECT_EQ(read_whole(text).status, XB_E_MALFORMED) << text;
+        EXPECT_EQ(read_whole(utf16(text, false, true)).status, XB_E_MALFORMED) << text;
+    }
+    EXPECT_EQ(read_whole("<?xml version='1.0' standalone='yes'?><!DOCTYPE r SYSTEM 'not-there.dtd'>"
+                         "<r a='&unknown;'/>")
+                  .status,
+              XB_E_MALFORMED);
+}
+
+TEST(XmlDocuments, known_references_are_replaced_beside_unread_declarations)
+{
+    EXPECT_EQ(read_whole("<!DOCTYPE r SYSTEM 'not-there.dtd'><r><b a='&lt;&gt;&amp;&quot;&apos;&#65;'/></r>")
+                  .content,
+              "<b a=\"&lt;&gt;&amp;&quot;'A\"></b>");
+    EXPECT_EQ(read_whole("<!DOCTYPE r [<!ENTITY e 'x'>]><r><b a='&e;'/></r>").content, "<b a=\"x\"></b>");
+}
+
+TEST(XmlDocuments, default_values_do_not_expand_without_bound)
+{
+    auto with_default = [](size_t length, int uses) {
+        std::string text = "<!DOCTYPE r [<!ATTLIST e x CDATA '" + std::string(length, 'x') + "'>]><r>";
+        for (int i = 0; i < uses; ++i)
+            text += "<e/>";
+        return text + "</r>";
+    };
+    EXPECT_EQ(read_whole(with_default(1000, 1000)).status, XB_OK);
+    EXPECT_EQ(read_whole(with_default(1U << 17, 10000)).status, XB_E_MALFORMED);
+}
+
+// Each entity's text is a reference to the one before.
+std::string chained_entities(int count)
+{
+    std::string text = "<!DOCTYPE r [<!ENTITY e1 'x'>";
+    for (int i = 2; i <= count; ++i)
+        text += "<!ENTITY e" + std::to_string(i) + " '&e" + std::to_string(i - 1) + ";'>";
+    const std::string use = "&e" + std::to_string(count) + ";";
+    return text + "]><r a='" + use + "'>" + use + "</r>";
+}
+
+std::string declared_attributes(int count)
+{
+    std::string text = "<!DOCTYPE r [";
+    for (int i = 0; i < count; ++i)
+        text += "<!ATTLIST r a" + std::to_string(i) + " CDATA #IMPLIED>";
+    return text + "]><r/>";
+}
+
+TEST(XmlDocuments, a_document_type_makes_1000_declarations_at_most)
+{
+    EXPECT_EQ(read_whole(chained_entities(1000)).content, "x");
+    EXPECT_EQ(read_whole(chained_entities(1001)).status, XB_E_MALFORMED);
+    EXPECT_EQ(read_whole(chained_entities(100000)).status, XB_E_MALFORMED);
+    EXPECT_EQ(read_whole(declared_attributes(1000)).status, XB_OK);
+    EXPECT_EQ(read_whole(declared_attributes(1001)).status, XB_E_MALFORMED);
+}
+
+TEST(XmlDocuments, zero_octets_are_not_well_formed)
+{
+    using namespace std::string_view_literals;
+    for (std::string_view text :
+         {"\0"sv, "<r>a\0b</r>"sv, "<r a='\0'/>"sv, "<r\0/>"sv, "<r/>\0"sv, "<r><!-- \0 --></r>"sv})
+        EXPECT_EQ(read_whole(text).status, XB_E_MALFORMED) << text;
+}
+
+TEST(XmlDocuments, a_byte_order_mark_alone_is_no_document)
+{
+    for (const char *mark : {"\xEF\xBB\xBF", "\xFE\xFF", "\xFF\xFE"})
+        EXPECT_EQ(read_whole(mark).status, XB_E_MALFORMED);
+    EXPECT_EQ(read_whole("\xEF\xBB\xBF<r>x</r>").content, "x");
+}
+
 std::string bomb(const std::string &seed, const std::string &use)
 {
     std::string text = "<!DOCTYPE r [<!ENTITY e0 '" + seed + "'>";

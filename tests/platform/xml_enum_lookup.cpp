@@ -30,6 +30,13 @@ TEST(XmlEnumLookup, other_texts_are_not_found)
     EXPECT_EQ(rtxLookupEnum("A", 1, table, 0), XB_E_UNKNOWN_TOKEN);
 }
 
+TEST(XmlEnumLookup, a_table_in_another_order_than_that_of_its_texts_loses_tokens)
+{
+    constexpr xb_enum_row declared[] = {{"D", 0, 1, 3}, {"C", 1, 1, 2}, {"B", 2, 1, 1}, {"A", 3, 1, 0}};
+    EXPECT_EQ(rtxLookupEnum("D", 1, declared, 4), XB_E_UNKNOWN_TOKEN);
+    EXPECT_EQ(rtxLookupEnum("A", 1, declared, 4), XB_E_UNKNOWN_TOKEN);
+}
+
 TEST(XmlEnumLookup, the_given_length_decides)
 {
     EXPECT_EQ(rtxLookupEnum("ABx", 2, table, row_count), 1);

@@ -190,6 +190,18 @@ TEST(XmlValues, hexadecimal_into_a_buffer)
     }
 }
 
+TEST(XmlValues, of_hexadecimal_that_does_not_fit_only_the_count_is_told)
+{
+    xml_document document(as_element("010203"), {"v"});
+    uint8_t octets[2] = {};
+    uint32_t count = 0;
+    int32_t status = rtXmlpDecHexStr(&document.ctx, octets, 2, &count);
+    EXPECT_EQ(parameters_of(report(document, status)), std::vector<std::string>{});
+    xml_document odd(as_element("010"), {"v"});
+    status = rtXmlpDecHexStr(&odd.ctx, octets, 2, &count);
+    EXPECT_EQ(parameters_of(report(odd, status)), std::vector<std::string>{"010"});
+}
+
 TEST(XmlValues, hexadecimal_of_any_length)
 {
     xml_document document(as_element("00ff7F"), {"v"});

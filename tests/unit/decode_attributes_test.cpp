@@ -107,6 +107,8 @@ struct failing_case {
 const failing_case failing_cases[] = {
     {R"(colour="red")", XB_E_ATTRIBUTE_UNKNOWN, {"BaseModuleType", "colour"}},
     {R"(xmlns:f="urn:f" f:name="red")", XB_E_ATTRIBUTE_UNKNOWN, {"BaseModuleType", "name"}},
+    {R"(xml:lang="en")", XB_E_ATTRIBUTE_UNKNOWN, {"BaseModuleType", "lang"}},
+    {R"(driverId="x")", XB_E_ATTRIBUTE_UNKNOWN, {"BaseModuleType", "driverId"}},
     {R"(f:oid="red")", XB_E_UNDECLARED_PREFIX, {"BaseModuleType", "oid"}},
     {R"(adminState="up")", XB_E_UNKNOWN_TOKEN, {"up", "BaseModuleType", "adminState"}},
     {R"(fruable="yes")", XB_E_BAD_BOOLEAN, {"yes", "BaseModuleType", "fruable"}},

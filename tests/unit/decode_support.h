@@ -120,7 +120,7 @@ inline std::string text_node(const xb_data_list &list, uint32_t index)
     return &node<char>(list, index);
 }
 
-// A token of an enumeration with text around it.
+// One element without attributes.
 inline std::string tag(const std::string &name, const std::string &content)
 {
     return "<" + name + ">" + content + "</" + name + ">";

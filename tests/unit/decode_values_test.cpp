@@ -10,6 +10,13 @@ namespace
 
 using texts = std::vector<std::string>;
 
+// Extension parts have no initialiser of their own.
+template <typename Record>
+void cleared(Record *record)
+{
+    *record = {};
+}
+
 // A document with one value in it, and where it goes.
 template <typename Record, void (*Init)(Record *), int32_t (*Decoder)(xb_context *, Record *)>
 int32_t status_of(const std::string &before, const std::string &value, const std::string &after,
@@ -31,21 +38,21 @@ struct integer_kind {
 
 int32_t as_int8(const std::string &value, int64_t *result)
 {
-    return status_of<BaseIdEEPROMType_2, [](BaseIdEEPROMType_2 *r) { *r = {}; }, XmlDT_BaseIdEEPROMType_2>(
+    return status_of<BaseIdEEPROMType_2, cleared<BaseIdEEPROMType_2>, XmlDT_BaseIdEEPROMType_2>(
         "<e><checkSum>", value, "</checkSum></e>",
         [](const BaseIdEEPROMType_2 &r) -> int64_t { return r.checkSum; }, result);
 }
 
 int32_t as_uint8(const std::string &value, int64_t *result)
 {
-    return status_of<BaseIdEEPROMType_2, [](BaseIdEEPROMType_2 *r) { *r = {}; }, XmlDT_BaseIdEEPROMType_2>(
+    return status_of<BaseIdEEPROMType_2, cleared<BaseIdEEPROMType_2>, XmlDT_BaseIdEEPROMType_2>(
         "<e><hardwareVersion>", value, "</hardwareVersion></e>",
         [](const BaseIdEEPROMType_2 &r) -> int64_t { return r.hardwareVersion; }, result);
 }
 
 int32_t as_uint16(const std::string &value, int64_t *result)
 {
-    return status_of<BaseIdEEPROMType_2, [](BaseIdEEPROMType_2 *r) { *r = {}; }, XmlDT_BaseIdEEPROMType_2>(
+    return status_of<BaseIdEEPROMType_2, cleared<BaseIdEEPROMType_2>, XmlDT_BaseIdEEPROMType_2>(
         "<e><boardID>", value, "</boardID></e>",
         [](const BaseIdEEPROMType_2 &r) -> int64_t { return r.boardID; }, result);
 }
@@ -59,7 +66,7 @@ int32_t as_int16(const std::string &value, int64_t *result)
 
 int32_t as_int32(const std::string &value, int64_t *result)
 {
-    return status_of<BaseVoltageMarginType_2, [](BaseVoltageMarginType_2 *r) { *r = {}; },
+    return status_of<BaseVoltageMarginType_2, cleared<BaseVoltageMarginType_2>,
                      XmlDT_BaseVoltageMarginType_2>(
         "<e><highValue>", value,
         "</highValue><lowValue>0</lowValue><operation>ORVL_VOLT_MARGIN_OFF</operation></e>",
@@ -75,7 +82,7 @@ int32_t as_uint32(const std::string &value, int64_t *result)
 
 int32_t as_int64(const std::string &value, int64_t *result)
 {
-    return status_of<BasePortType_2, [](BasePortType_2 *r) { *r = {}; }, XmlDT_BasePortType_2>(
+    return status_of<BasePortType_2, cleared<BasePortType_2>, XmlDT_BasePortType_2>(
         "<e><maxBandWidth>", value,
         "</maxBandWidth><operatingBandWidth>1</operatingBandWidth><hwBoardIdentifier>x</hwBoardIdentifier></"
         "e>",
@@ -167,12 +174,10 @@ TEST(DecodeValues, addresses_longer_than_their_buffer_fail_with_name_and_count)
     address8 two("0102");
     EXPECT_EQ(two.status, XB_E_CONSTRAINT);
     EXPECT_EQ(two.value.count, 0u);
-    texts parameters = two.parameters();
-    ASSERT_GE(parameters.size(), 2u);
-    EXPECT_EQ(texts(parameters.end() - 2, parameters.end()), (texts{"Hex8BitHexAddressType", "2"}));
+    EXPECT_EQ(two.parameters(), (texts{"Hex8BitHexAddressType", "2"}));
     address32 five("0102030405");
     EXPECT_EQ(five.status, XB_E_CONSTRAINT);
-    EXPECT_EQ(five.parameters().back(), "5");
+    EXPECT_EQ(five.parameters(), (texts{"Hex32BitHexAddressType", "5"}));
     EXPECT_EQ(address32(std::string(200000, 'a')).status, XB_E_CONSTRAINT);
 }
 
@@ -204,6 +209,7 @@ TEST(DecodeValues, an_address_that_fails_as_attribute_is_recorded_and_holds_no_o
              R"(<unit>ORVL_SENSOR_UNIT_RPM</unit><scale>ORVL_SENSOR_SCALE_UNITS</scale></e>)");
     EXPECT_EQ(d.status, XB_E_CONSTRAINT);
     EXPECT_FALSE(d.error().fatal);
+    EXPECT_EQ(d.parameters(), (texts{"Hex32BitHexAddressType", "5", "BaseSensorType", "marginRegister"}));
     EXPECT_EQ(d.record.has.marginRegister, 0);
     EXPECT_EQ(d.record.marginRegister.count, 0u);
     EXPECT_EQ(d.record.ext.value, 1);

@@ -1,4 +1,5 @@
 // schemac XSD --source-dir DIR --header-dir DIR [--check]
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <fstream>

@@ -155,7 +155,10 @@ void rtxStreamClose(xb_context *ctx);
  * returns it. After any other failure the reader stands where it stood.
  *
  * External entities are never loaded and end the reading with XB_E_MALFORMED, as do references
- * whose text is not known and entities that expand far beyond their size. */
+ * whose text is not known and entities or default values that expand far beyond the document's size.
+ * A document type that stands outside of the document is passed over; attribute values may then
+ * refer to characters and the predefined entities only. One within may declare 1000 entities and
+ * attributes at most. */
 int32_t rtXmlpCreateReader(xb_context *ctx);
 
 /* Reads the next start tag and matches its local name, whatever its namespace. XB_E_ROOT_MISMATCH
@@ -244,8 +247,8 @@ int32_t rtXmlpGetXSITypeIndex(xb_context *ctx, const xb_type_name_row *table, in
 
 /* Numbers, by XML Schema's lexical rules: white space around is dropped, a sign is allowed (an
  * unsigned kind takes "-0" only), digits must follow and nothing else may. XB_E_BAD_INTEGER,
- * XB_E_OUT_OF_RANGE. The target keeps its value on failure. All value decoders leave the
- * offending text as a parameter for the error that is recorded next. */
+ * XB_E_OUT_OF_RANGE. The target keeps its value on failure. Value decoders leave the
+ * offending text as a parameter for the error that is recorded next, except with XB_E_CONSTRAINT. */
 int32_t rtXmlpDecInt8(xb_context *ctx, int8_t *value);
 int32_t rtXmlpDecUInt8(xb_context *ctx, uint8_t *value);
 int32_t rtXmlpDecInt16(xb_context *ctx, int16_t *value);

@@ -26,7 +26,10 @@ int32_t decode_choice(xb_context *ctx, const choice_description &choices, xb_cho
     return 0;
 }
 
-int32_t decode_document(xb_context *ctx, const root_description &root, void *record)
+namespace
+{
+
+int32_t read_document(xb_context *ctx, const root_description &root, void *record)
 {
     int32_t status = rtXmlpCreateReader(ctx);
     if (status < 0)
@@ -39,9 +42,18 @@ int32_t decode_document(xb_context *ctx, const root_description &root, void *rec
     if (status < 0)
         return report(ctx, status, root.first_step + 2);
     status = rtXmlpMatchEndTag(ctx, -1);
-    if (status < 0)
-        return report(ctx, status, root.first_step + 3);
-    return rtxErrGetStatus(ctx);
+    return status < 0 ? report(ctx, status, root.first_step + 3) : 0;
+}
+
+}  // namespace
+
+// The first recorded status is the result: attribute errors that the decode outlived come before the
+// failure that ended it.
+int32_t decode_document(xb_context *ctx, const root_description &root, void *record)
+{
+    int32_t status = read_document(ctx, root, record);
+    int32_t recorded = rtxErrGetStatus(ctx);
+    return recorded != 0 ? recorded : status;
 }
 
 }  // namespace inv::decode
