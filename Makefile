@@ -25,11 +25,12 @@ endef
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 14
 
-run: ## install what is missing, build, print the tree of a sample line card
+run: ## install what is missing, build, print a sample line card's tree and the way to a sensor
 	$(call packages,build)
 	cmake --preset release --log-level=WARNING >/dev/null
 	cmake --build --preset release -j $(JOBS) --target invctl lib_inv_parser
 	build/release/tools/invctl/invctl tree inventories/line_card_48.xml
+	build/release/tools/invctl/invctl path inventories/line_card_48.xml "Slice 0 inlet temperature"
 
 test: ## one build and its tests
 	$(call packages,build test)
@@ -61,7 +62,7 @@ check-format: ## formatting of all sources
 	$(call packages,check)
 	tools/check_format.sh
 
-bench: ## benchmarks: open and close of documents with 1,000 to 100,000 entities
+bench: ## benchmarks: open and close of documents with up to 100,000 entities, access sequences
 	$(call packages,build test)
 	$(call build,dev,--target inv_bench)
 	$(BUILD)/bench/inv_bench

@@ -1,7 +1,7 @@
 // A catalogue of inventory files, asked for a few units by both generations of the lookup.
 #include <cstdint>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <sys/mman.h>
 #include <unistd.h>

@@ -40,8 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     for (auto decode : decoders) {
         xb_context context = {};
-        if (rtXmlInitContext(&context) == XB_OK &&
-            rtxStreamMemoryCreateReader(&context, data, size) == XB_OK)
+        if (rtXmlInitContext(&context) == XB_OK && rtxStreamMemoryCreateReader(&context, data, size) == XB_OK)
             check_errors(context, decode(&context));
         rtxFreeContext(&context);
     }

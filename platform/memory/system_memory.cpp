@@ -3,7 +3,8 @@
 #include <stdlib.h>
 #include <sys/mman.h>
 
-namespace inv::memory {
+namespace inv::memory
+{
 
 void *request(size_t size)
 {

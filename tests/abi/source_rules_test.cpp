@@ -12,7 +12,8 @@
 #include <string>
 #include <vector>
 
-namespace {
+namespace
+{
 
 namespace fs = std::filesystem;
 
@@ -44,7 +45,8 @@ std::vector<source_file> library_sources()
         if (extension != ".cpp" && extension != ".h")
             continue;
         fs::path folder = fs::relative(entry.path().parent_path(), source_folder);
-        files.push_back({folder == "." ? "" : folder.string(), entry.path().filename(), read_file(entry.path())});
+        files.push_back(
+            {folder == "." ? "" : folder.string(), entry.path().filename(), read_file(entry.path())});
     }
     return files;
 }
@@ -82,8 +84,8 @@ std::set<int> pending_ids()
     std::smatch match;
     for (std::string line; std::getline(lines, line);)
         if (std::regex_match(line, match, range))
-            for (int id = std::stoi(match[1]); id <= (match[2].matched ? std::stoi(match[2]) : std::stoi(match[1]));
-                 ++id)
+            for (int id = std::stoi(match[1]);
+                 id <= (match[2].matched ? std::stoi(match[2]) : std::stoi(match[1])); ++id)
                 ids.insert(id);
     return ids;
 }
@@ -101,7 +103,8 @@ TEST(SourceRules, no_folder_includes_one_that_stands_later)
                 continue;
             ++checked;
             EXPECT_LT(rank_of(target), folder_order.size()) << file.name << " includes " << (*it)[1];
-            EXPECT_LE(rank_of(target), own_rank) << file.folder << '/' << file.name << " includes " << (*it)[1];
+            EXPECT_LE(rank_of(target), own_rank)
+                << file.folder << '/' << file.name << " includes " << (*it)[1];
         }
     }
     EXPECT_GT(checked, 50u);

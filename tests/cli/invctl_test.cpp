@@ -1,77 +1,13 @@
 // invctl as people and scripts call it: outputs, exit codes, messages.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <sys/wait.h>
-
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <string>
+#include "invctl_fixture.h"
 
 #include <nlohmann/json.hpp>
 
-namespace {
+namespace
+{
 
-namespace fs = std::filesystem;
 using testing::HasSubstr;
 using testing::StartsWith;
-
-const fs::path samples = fs::path(INV_SOURCE_DIR) / "inventories";
-const fs::path golden = fs::path(INV_SOURCE_DIR) / "tests/cli/golden";
-
-struct outcome {
-    int exit_code = -1;
-    std::string out;
-    std::string err;
-};
-
-std::string read_file(const fs::path &path)
-{
-    std::ifstream stream(path, std::ios::binary);
-    std::stringstream text;
-    text << stream.rdbuf();
-    return text.str();
-}
-
-class Invctl : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        std::string pattern = (fs::temp_directory_path() / "invctl_XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        folder = pattern;
-    }
-    void TearDown() override { fs::remove_all(folder); }
-
-    // Runs the command through the shell; `arguments` may redirect.
-    outcome run(const std::string &arguments)
-    {
-        fs::path out = folder / "out";
-        fs::path err = folder / "err";
-        std::string command = std::string("'") + INVCTL + "' " + arguments;
-        command = "{ " + command + "; } 2>'" + err.string() + "' >'" + out.string() + "'";
-        int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), read_file(out), read_file(err)};
-    }
-
-    fs::path write(const std::string &name, const std::string &text)
-    {
-        fs::path path = folder / name;
-        std::ofstream(path, std::ios::binary) << text;
-        return path;
-    }
-
-    fs::path folder;
-};
-
-std::string quoted(const fs::path &path)
-{
-    return "'" + path.string() + "'";
-}
 
 const char entity_attributes[] =
     R"(name="Board" type="ORVL_ENTITY_TYPE_MODULE" subtype="ORVL_ENTITY_SUBTYPE_MODULE_MOTHER_BOARD" )"
@@ -128,8 +64,8 @@ TEST_F(Invctl, json_survives_a_name_that_the_record_cuts_inside_a_character)
 
 TEST_F(Invctl, every_kind_of_document_has_a_tree)
 {
-    for (const char *name : {"chassis", "route_processor", "line_card_48", "line_card_12", "fabric_card", "fan_tray",
-                             "power_shelf", "pem", "cxp_optics"}) {
+    for (const char *name : {"chassis", "route_processor", "line_card_48", "line_card_12", "fabric_card",
+                             "fan_tray", "power_shelf", "pem", "cxp_optics"}) {
         outcome result = run("tree " + quoted(samples / (std::string(name) + ".xml")));
         EXPECT_EQ(result.exit_code, 0) << name << ": " << result.err;
         EXPECT_NE(result.out, "") << name;
@@ -138,7 +74,8 @@ TEST_F(Invctl, every_kind_of_document_has_a_tree)
 
 TEST_F(Invctl, a_missing_attribute_is_pointed_at_by_file_line_and_column)
 {
-    std::string text = std::string("<module ") + entity_attributes + ">\n  <module " + entity_attributes + "/>\n</module>\n";
+    std::string text =
+        std::string("<module ") + entity_attributes + ">\n  <module " + entity_attributes + "/>\n</module>\n";
     size_t second = text.rfind("xmlInstance");
     text.replace(second, text.find('/', second) - second, "");
     fs::path path = write("broken.xml", text);

@@ -52,9 +52,9 @@ int32_t decode_as(xb_context *context)
 int32_t library_status(const sample &judged)
 {
     static int32_t (*const decoders[])(xb_context *) = {
-        decode_as<xb_choice, XmlD_module>,           decode_as<ChassisEntityType, XmlD_chassis>,
-        decode_as<PowerShelfType, XmlD_powerShelf>,  decode_as<PEMType, XmlD_pem>,
-        decode_as<FanTrayType, XmlD_fanTray>,        decode_as<OpticsType, XmlD_optics>,
+        decode_as<xb_choice, XmlD_module>,          decode_as<ChassisEntityType, XmlD_chassis>,
+        decode_as<PowerShelfType, XmlD_powerShelf>, decode_as<PEMType, XmlD_pem>,
+        decode_as<FanTrayType, XmlD_fanTray>,       decode_as<OpticsType, XmlD_optics>,
     };
     xb_context context = {};
     int32_t status = rtXmlInitContext(&context);
@@ -115,8 +115,7 @@ std::vector<sample> faulty_samples(size_t rounds)
     for (std::string_view fault : inv_testing::fault_names()) {
         for (size_t made = 0, tries = 0; made < rounds && tries < 50 * rounds; ++tries, ++seed) {
             auto kind = static_cast<document_kind>(seed % inv_testing::document_kind_count);
-            auto mutant =
-                inv_testing::mutate_with(inv_testing::random_document(seed, kind), seed, fault);
+            auto mutant = inv_testing::mutate_with(inv_testing::random_document(seed, kind), seed, fault);
             if (!mutant)
                 continue;
             samples.push_back({mutant->document, std::string(fault), kind});

@@ -4,16 +4,30 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <malloc.h>
+#include <mutex>
 #include <sys/mman.h>
 
-namespace {
+namespace
+{
 
 std::atomic<uint64_t> request_count;
 std::atomic<uint64_t> live_count;
+std::atomic<uint64_t> heap;
 std::atomic<uint64_t> mapped;
 std::atomic<uint64_t> fail_number;
 std::atomic<bool> fail_all_after;
 std::atomic<bool> has_failed;
+
+std::mutex left_guard;
+std::map<const void *, std::string> left;  // by block: the tag
+std::atomic<bool> has_left;                // spares the releases of most tests the lock
+
+void forget_left(const void *block)
+{
+    std::lock_guard<std::mutex> held(left_guard);
+    left.erase(block);
+}
 
 // True when the request now made has to fail.
 bool refuse()
@@ -28,7 +42,8 @@ bool refuse()
 
 }  // namespace
 
-namespace counting_memory {
+namespace counting_memory
+{
 
 uint64_t requests()
 {
@@ -38,6 +53,11 @@ uint64_t requests()
 uint64_t live()
 {
     return live_count;
+}
+
+uint64_t heap_octets()
+{
+    return heap;
 }
 
 uint64_t mapped_octets()
@@ -58,6 +78,33 @@ bool failed()
     return has_failed;
 }
 
+void expect_left(const char *tag, const void *block)
+{
+    if (block == nullptr)
+        return;
+    std::lock_guard<std::mutex> held(left_guard);
+    left.emplace(block, tag);
+    has_left = true;
+}
+
+std::map<std::string, uint64_t> left_by_tag()
+{
+    std::lock_guard<std::mutex> held(left_guard);
+    std::map<std::string, uint64_t> counts;
+    for (const auto &[block, tag] : left)
+        ++counts[tag];
+    return counts;
+}
+
+void release_left()
+{
+    has_left = false;
+    std::lock_guard<std::mutex> held(left_guard);
+    for (const auto &[block, tag] : left)
+        inv::memory::release(const_cast<void *>(block));
+    left.clear();
+}
+
 void reset()
 {
     fail_at(0);
@@ -65,7 +112,8 @@ void reset()
 
 }  // namespace counting_memory
 
-namespace inv::memory {
+namespace inv::memory
+{
 
 void *request(size_t size)
 {
@@ -74,6 +122,7 @@ void *request(size_t size)
     void *block = calloc(1, size);
     if (block != nullptr)
         ++live_count;
+    heap += malloc_usable_size(block);
     return block;
 }
 
@@ -81,9 +130,12 @@ void *resize(void *block, size_t size)
 {
     if (refuse())
         return nullptr;
+    size_t before = malloc_usable_size(block);
     void *grown = realloc(block, size);
     if (block == nullptr && grown != nullptr)
         ++live_count;
+    if (grown != nullptr)
+        heap += malloc_usable_size(grown) - before;
     return grown;
 }
 
@@ -91,6 +143,9 @@ void release(void *block)
 {
     if (block != nullptr)
         --live_count;
+    if (has_left)
+        forget_left(block);
+    heap -= malloc_usable_size(block);
     free(block);
 }
 

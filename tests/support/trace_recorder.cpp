@@ -4,10 +4,11 @@
 #include "inv_parser/frame.h"
 #include "inv_platform/trace.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <mutex>
-#include <regex>
+#include <string_view>
 
 namespace
 {
@@ -43,6 +44,36 @@ std::string formatted(const char *format, va_list arguments)
     std::string text(length < 0 ? 0 : static_cast<size_t>(length), '\0');
     vsnprintf(text.data(), text.size() + 1, format, arguments);
     return text;
+}
+
+// Length of the pointer that a text begins with, as printf writes it; 0: none. Shorter hexadecimal numbers
+// are values, not pointers.
+size_t pointer_length(std::string_view text)
+{
+    constexpr std::string_view null_pointer = "(nil)", prefix = "0x";
+    constexpr size_t fewest_digits = 6;
+    if (text.starts_with(null_pointer))
+        return null_pointer.size();
+    if (!text.starts_with(prefix))
+        return 0;
+    size_t end = std::min(text.find_first_not_of("0123456789abcdef", prefix.size()), text.size());
+    return end < prefix.size() + fewest_digits ? 0 : end;
+}
+
+// The text in one line, pointers masked.
+std::string masked(std::string_view text)
+{
+    std::string result;
+    for (size_t at = 0; at < text.size();) {
+        if (size_t length = pointer_length(text.substr(at)); length != 0) {
+            result += "PTR";
+            at += length;
+        } else {
+            result += text[at] == '\n' ? std::string_view("\\n") : text.substr(at, 1);
+            ++at;
+        }
+    }
+    return result;
 }
 
 }  // namespace
@@ -92,16 +123,10 @@ std::vector<uint32_t> ids()
 
 std::string dump()
 {
-    static const std::regex pointer("0x[0-9a-f]{6,}|\\(nil\\)");
     std::string all;
-    for (const line &each : lines()) {
-        std::string text;
-        for (char c : each.text)
-            text += c == '\n' ? std::string("\\n") : std::string(1, c);
+    for (const line &each : lines())
         all += std::to_string(each.id) + ' ' + std::to_string(each.size_word) + ' ' +
-               std::to_string(each.has_string) + " \"" + each.kinds + "\" " +
-               std::regex_replace(text, pointer, "PTR") + '\n';
-    }
+               std::to_string(each.has_string) + " \"" + each.kinds + "\" " + masked(each.text) + '\n';
     return all;
 }
 

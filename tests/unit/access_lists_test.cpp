@@ -11,6 +11,44 @@ namespace
 enum class existing_list { appended_to, replaced };
 enum class out_of_memory { traced_and_ends, silently_ends, skips_the_element };
 
+// Values that make the builders ask for all the memory they can ask for.
+template <class Decoded>
+void enrich(Decoded &)
+{
+}
+
+I2cDestType i2c_ends[2];
+PCIeDestType pcie_ends[2];
+SpiDestType spi_ends[2];
+const decoded_list i2c_end_list = {&i2c_ends[0], &i2c_ends[1]},
+                   pcie_end_list = {&pcie_ends[0], &pcie_ends[1]},
+                   spi_end_list = {&spi_ends[0], &spi_ends[1]};
+
+void enrich(I2cPortType &port)
+{
+    i2c_ends[0].nodeInfo.nodeType = SCH_NODE_TYPE_ENTITY;
+    port.dstInfo = i2c_end_list;
+}
+
+void enrich(BasePCIePortType &port)
+{
+    pcie_ends[0].nodeInfo.nodeType = SCH_NODE_TYPE_ENTITY;
+    port.dstInfo = pcie_end_list;
+}
+
+void enrich(SpiPortType &port)
+{
+    port.dstInfo = spi_end_list;
+}
+
+template <class Decoded>
+std::shared_ptr<void> rich_value()
+{
+    auto value = std::make_shared<Decoded>();
+    enrich(*value);
+    return value;
+}
+
 // A list builder with its record type taken away.
 struct list_builder {
     std::string name;
@@ -22,7 +60,7 @@ struct list_builder {
     std::function<size_t(void *)> length;
     std::function<void *(void *)> next;
     std::function<void(void *)> release;
-    std::shared_ptr<void> value;  // a decoded value that needs nothing more
+    std::shared_ptr<void> value;  // decoded
 };
 
 template <class Decoded, class Record, class Build>
@@ -40,7 +78,7 @@ list_builder describe(const char *name, uint32_t null_list_id, uint32_t no_memor
             [](void *first) { return length_of(static_cast<Record *>(first)); },
             [](void *record) -> void * { return static_cast<Record *>(record)->next; },
             [release](void *first) { release(static_cast<Record *>(first)); },
-            std::make_shared<Decoded>()};
+            rich_value<Decoded>()};
 }
 
 // SPI lists have no release: the test gives the elements back as a client would give back calloc()'s.
@@ -49,6 +87,8 @@ void release_by_hand(Record *first)
 {
     while (first != nullptr) {
         Record *next = first->next;
+        if constexpr (requires { first->dest_list; })
+            release_by_hand(first->dest_list);
         inv::record_free(first);
         first = next;
     }
@@ -110,7 +150,7 @@ protected:
     {
         id_list ids;
         for (uint32_t id : trace_recorder::ids())
-            if (id != 122 && id != 138)
+            if (id != 122 && id != 124 && id != 127 && id != 138)
                 ids.push_back(id);
         return ids;
     }
@@ -218,6 +258,43 @@ TEST_P(AccessLists, memory_running_out_at_the_second_element_keeps_the_first)
         EXPECT_EQ(builder.length(head), 2u) << "the list stays whole and the walk goes on";
     }
     builder.release(head);
+}
+
+// Whatever request fails, the result and the length follow the builder's own rule and nothing is lost.
+TEST_P(AccessLists, every_request_may_fail)
+{
+    constexpr size_t elements = 3;
+    decoded_list three;
+    for (size_t i = 0; i < elements; ++i)
+        three.add(value);
+    bool is_destination_list = builder.name.ends_with("_dest") && builder.failure == traced_and_ends;
+    for (uint64_t n = 1;; ++n) {
+        SCOPED_TRACE(n);
+        void *head = nullptr;
+        trace_recorder::clear();
+        counting_memory::fail_at(n);
+        uint32_t result = builder.build(&head, &three);
+        bool failed = counting_memory::failed();
+        counting_memory::reset();
+        id_list ids = failure_ids();
+        size_t length = builder.length(head);
+        bool own_element_failed = builder.no_memory_id != 0 && ids == id_list{builder.no_memory_id};
+        if (builder.failure == silently_ends) {
+            EXPECT_EQ(length, failed ? n - 1 : elements);
+        } else if (builder.failure == skips_the_element) {
+            EXPECT_EQ(length, ids == id_list{154} ? elements - 1 : elements);
+        } else {
+            EXPECT_EQ(result == 1, own_element_failed || (is_destination_list && failed));
+            EXPECT_TRUE(own_element_failed ? length < elements : result == 1 || length == elements) << length;
+        }
+        take_down();
+        parser_set_inv_file_instance(&handle);
+        builder.release(head);
+        ASSERT_EQ(counting_memory::live(), live_before);
+        if (!failed)
+            break;
+        ASSERT_LT(n, 100u);
+    }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "support/current_file_fixture.h"
 
 #include <cstring>
+#include <functional>
 #include <string>
 
 namespace
@@ -265,48 +266,46 @@ TEST_F(AccessRecords, hardware_signals_carry_three_registers_and_the_path)
     EXPECT_EQ(record.field_present, 1);
 }
 
+// Calls a builder with a null record, else with a null value.
+template <class Record, class Decoded, class... Rest>
+std::function<uint32_t(bool)> one_null(uint32_t (*build)(Record *, const Decoded *, Rest...))
+{
+    return [build](bool null_record) {
+        Record record = {};
+        Decoded decoded = {};
+        return build(null_record ? nullptr : &record, null_record ? &decoded : nullptr, Rest{}...);
+    };
+}
+
 // A null record or value only traces, and the result is 0.
 TEST_F(AccessRecords, a_null_record_or_value_is_traced_and_skipped)
 {
     const struct {
         uint32_t id;
         const char *text;
-        uint32_t (*call)();
+        std::function<uint32_t(bool)> call;
     } cases[] = {
-        {121, "Invalid i2cNodeType pointer\n",
-         [] { return parser_retrieve_i2c_node_data(nullptr, nullptr); }},
-        {123, "Invalid PciNodeType pointer\n",
-         [] { return parser_retrieve_pcie_node_data(nullptr, nullptr); }},
-        {125, "Invalid HardwareRegistersType pointer\n",
-         [] { return parser_retrieve_hw_reg_data(nullptr, nullptr); }},
-        {126, "Invalid NodeInfoType pointer\n",
-         [] { return parser_retrieve_node_info_data(nullptr, nullptr); }},
-        {128, "Invalid PowerZoneType pointer\n",
-         [] { return parser_retrieve_power_zone_data(nullptr, nullptr); }},
-        {131, "Invalid I2cDestype pointer\n",
-         [] { return parser_retrieve_i2c_dest_data(nullptr, nullptr, 1, nullptr); }},
-        {137, "Invalid I2cPortType pointer\n",
-         [] { return parser_retrieve_i2c_port_data(nullptr, nullptr, nullptr); }},
-        {141, "Invalid PCIeDestype pointer\n",
-         [] { return parser_retrieve_pcie_dest_data(nullptr, nullptr, 1, nullptr); }},
-        {147, "Invalid SpiDestType pointer\n",
-         [] { return parser_retrieve_spi_dest_data(nullptr, nullptr); }},
-        {148, "Invalid PciSequenceType pointer\n",
-         [] { return parser_retrieve_pci_sequence_data(nullptr, nullptr); }},
-        {152, "Invalid I2cSequenceType pointer\n",
-         [] { return parser_retrieve_i2c_sequence_data(nullptr, nullptr); }},
-        {153, "Invalid HwSignalsType pointer\n",
-         [] { return parser_retrieve_hw_signals_data(nullptr, nullptr); }},
-        {154, "Invalid SpiPortType pointer\n",
-         [] { return parser_retrieve_spi_port_data(nullptr, nullptr); }},
-        {155, "Invalid BasePCIePortType pointer\n",
-         [] { return parser_retrieve_base_pcie_port_data(nullptr, nullptr, nullptr); }},
+        {121, "Invalid i2cNodeType pointer\n", one_null(parser_retrieve_i2c_node_data)},
+        {123, "Invalid PciNodeType pointer\n", one_null(parser_retrieve_pcie_node_data)},
+        {125, "Invalid HardwareRegistersType pointer\n", one_null(parser_retrieve_hw_reg_data)},
+        {126, "Invalid NodeInfoType pointer\n", one_null(parser_retrieve_node_info_data)},
+        {128, "Invalid PowerZoneType pointer\n", one_null(parser_retrieve_power_zone_data)},
+        {131, "Invalid I2cDestype pointer\n", one_null(parser_retrieve_i2c_dest_data)},
+        {137, "Invalid I2cPortType pointer\n", one_null(parser_retrieve_i2c_port_data)},
+        {141, "Invalid PCIeDestype pointer\n", one_null(parser_retrieve_pcie_dest_data)},
+        {147, "Invalid SpiDestType pointer\n", one_null(parser_retrieve_spi_dest_data)},
+        {148, "Invalid PciSequenceType pointer\n", one_null(parser_retrieve_pci_sequence_data)},
+        {152, "Invalid I2cSequenceType pointer\n", one_null(parser_retrieve_i2c_sequence_data)},
+        {153, "Invalid HwSignalsType pointer\n", one_null(parser_retrieve_hw_signals_data)},
+        {154, "Invalid SpiPortType pointer\n", one_null(parser_retrieve_spi_port_data)},
+        {155, "Invalid BasePCIePortType pointer\n", one_null(parser_retrieve_base_pcie_port_data)},
     };
     for (const auto &c : cases) {
         trace_recorder::clear();
-        EXPECT_EQ(c.call(), 0u);
-        ASSERT_EQ(trace_recorder::lines().size(), 1u) << c.id;
-        EXPECT_EQ(trace_recorder::lines()[0], (trace_recorder::line{c.id, 4, 0, "", c.text}));
+        EXPECT_EQ(c.call(true), 0u);
+        EXPECT_EQ(c.call(false), 0u);
+        trace_recorder::line expected = {c.id, 4, 0, "", c.text};
+        EXPECT_EQ(trace_recorder::lines(), (std::vector<trace_recorder::line>{expected, expected})) << c.id;
     }
 }
 

@@ -6,6 +6,7 @@
 #include "support/failing_lock.h"
 #include "support/fake_platform.h"
 #include "support/trace_recorder.h"
+#include "tree/current_file.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -193,6 +194,23 @@ TEST(Close, a_handle_with_an_invalid_type_is_kept_without_its_files_memory)
         EXPECT_EQ(library.live(), 1u);
         library.release_kept(handle);
     }
+}
+
+TEST(Close, a_closed_file_is_no_longer_the_one_that_direct_builds_are_filed_under)
+{
+    fresh_library library;
+    inv_xml_handle *closed = open_document(module_document());
+    inv_xml_handle *other = open_document(chassis_document());
+    ASSERT_NE(closed, nullptr);
+    parser_set_inv_file_instance(closed);
+    inv_parser_close_xml_file(closed);
+    EXPECT_EQ(inv::current_file(), nullptr);
+    parser_set_inv_file_instance(other);
+    inv_xml_handle *third = open_file(generations()[0], path_of(module_document()), 3);
+    parser_set_inv_file_instance(other);
+    inv_parser_close_xml_file(third);
+    EXPECT_EQ(inv::current_file(), other) << "another file stays";
+    parser_set_inv_file_instance(nullptr);
 }
 
 TEST(Close, a_handle_put_together_by_hand_goes_by_its_hardware_type)

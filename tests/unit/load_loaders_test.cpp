@@ -120,6 +120,21 @@ TEST(Load, a_missing_chassis_file_opens_and_a_missing_module_file_does_not)
     EXPECT_THAT(frame_ids(), Contains(47));
 }
 
+TEST(Load, a_file_that_cannot_be_read_is_as_a_missing_one)
+{
+    for (const document_case &each : documents()) {
+        SCOPED_TRACE(each.name);
+        fresh_library library;
+        // A folder has a name and no text.
+        inv_xml_handle *handle = open_file(generations()[0], scratch_folder(), each.pi_hw_type);
+        EXPECT_THAT(frame_ids(), Contains(each.decode_id));
+        if (is_module(each))
+            EXPECT_EQ(handle, nullptr);
+        else
+            expect_empty_tree(library, handle);
+    }
+}
+
 TEST(Load, a_second_chassis_replaces_the_record_global_and_the_first_stays_with_its_handle)
 {
     fresh_library library;

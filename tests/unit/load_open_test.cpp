@@ -258,18 +258,26 @@ TEST(Open, a_product_identifier_that_fills_its_field_is_read_to_the_fields_end_o
     EXPECT_THAT(text_of_line(44), testing::HasSubstr(pid));
 }
 
-TEST(Open, two_hardware_kinds_that_share_a_file_share_a_handle)
+TEST(Open, two_hardware_kinds_that_share_a_file_share_the_handle_of_the_first)
 {
-    fresh_library library;
-    inv_xml_handle *handle = open_document(module_document());
-    ASSERT_NE(handle, nullptr);
-    EXPECT_EQ(generations()[1].open(1), handle);
-    EXPECT_EQ(handle->pi_hw_type, 3u);
-    EXPECT_EQ(handle->pd_hw_type, 103u);
-    EXPECT_EQ(handle->file_count, 2);
-    inv_parser_close_xml_file(handle);
-    inv_parser_close_xml_file(handle);
-    EXPECT_EQ(library.live(), 0u);
+    for (const document_case &first : documents()) {
+        for (const document_case &second : documents()) {
+            SCOPED_TRACE(first.name + std::string(", then ") + second.name);
+            fresh_library library;
+            inv_xml_handle *handle = open_document(first);
+            ASSERT_NE(handle, nullptr);
+            trace_recorder::clear();
+            EXPECT_EQ(generations()[1].open(second.pi_hw_type), handle);
+            EXPECT_THAT(frame_ids(), ElementsAre(42, 10, 44)) << "nothing is loaded again";
+            EXPECT_EQ(handle->pi_hw_type, first.pi_hw_type);
+            EXPECT_EQ(handle->pd_hw_type, 100 + first.pi_hw_type);
+            EXPECT_EQ(handle->file_count, 2);
+            EXPECT_EQ(entity_count(handle), first.entities);
+            inv_parser_close_xml_file(handle);
+            inv_parser_close_xml_file(handle);
+            EXPECT_EQ(library.live(), 0u);
+        }
+    }
 }
 
 TEST(Open, without_a_local_clock_the_two_lines_that_show_it_are_left_out)

@@ -1,3 +1,4 @@
+#include "frame/file_memory.h"
 #include "support/current_file_fixture.h"
 
 #include <cstring>
@@ -307,8 +308,13 @@ TEST_F(Modules, a_back_planes_modules_form_a_chain_through_module_list)
     EXPECT_EQ(first->module_list->module_list->module_list, nullptr);
     for (sch_module_type *each = first; each != nullptr; each = each->module_list)
         EXPECT_EQ(each->next, nullptr);
+    // "inner" was replaced in its parent: only the tree still knows it.
+    const eid_chain_node *plane_a = root_eid->first_child->next_sibling->next_sibling;
+    sch_base_entity_type *inner_record = plane_a->first_child->record;
+    take_down();
     inv_schema_free_back_plane_data(&record);
-    left_by_contract = 1;  // "inner", replaced in its parent
+    EXPECT_EQ(counting_memory::live(), live_before + 1);
+    inv::record_free(inner_record);
 }
 
 TEST_F(Modules, a_back_plane_node_without_a_value_leaves_its_module_empty)

@@ -9,7 +9,8 @@
 #include "exit_codes.h"
 #include "output.h"
 
-namespace {
+namespace
+{
 
 using invctl::tree_options;
 using json = nlohmann::ordered_json;
@@ -82,7 +83,8 @@ void print_json(const invctl::document &opened, const tree_options &options)
 
 }  // namespace
 
-namespace invctl {
+namespace invctl
+{
 
 int run_tree(const tree_options &options)
 {

@@ -6,7 +6,8 @@
 #include <optional>
 #include <string>
 
-namespace invctl {
+namespace invctl
+{
 
 struct tree_options {
     std::string file;

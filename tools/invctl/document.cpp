@@ -14,7 +14,8 @@
 #include "inv_platform/xml_runtime.h"
 #include "inventory_Derivations.h"
 
-namespace {
+namespace
+{
 
 // What the library's file lookup is answered with while a document is being opened.
 std::string file_to_open;
@@ -53,8 +54,8 @@ void print_errors(const std::string &path, const xb_context *context)
     for (uint32_t index = 0; rtxErrGet(context, index, &error); ++index) {
         if (error.line != 0)
             fprintf(stderr, "%s:%llu:%llu: error[%d]: %s", path.c_str(),
-                    static_cast<unsigned long long>(error.line), static_cast<unsigned long long>(error.column),
-                    error.status, rtxErrText(error.status));
+                    static_cast<unsigned long long>(error.line),
+                    static_cast<unsigned long long>(error.column), error.status, rtxErrText(error.status));
         else
             fprintf(stderr, "%s: error[%d]: %s", path.c_str(), error.status, rtxErrText(error.status));
         for (uint32_t i = 0; i < error.parameter_count; ++i)
@@ -143,7 +144,8 @@ extern "C" const char *platform_get_inv_xml_file_name_v2(const struct fru_xml_lo
     return file_to_open.empty() ? nullptr : file_to_open.c_str();
 }
 
-namespace invctl {
+namespace invctl
+{
 
 int open_document(const std::string &path, document *opened)
 {

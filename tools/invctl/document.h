@@ -6,12 +6,13 @@
 
 #include "inv_parser/inv_parser.h"
 
-namespace invctl {
+namespace invctl
+{
 
 struct document {
-    std::string path;                 // as the user wrote it
-    const char *kind = nullptr;       // root element's name; a constant
-    inv_xml_handle *handle = nullptr; // null when it could not be opened
+    std::string path;                  // as the user wrote it
+    const char *kind = nullptr;        // root element's name; a constant
+    inv_xml_handle *handle = nullptr;  // null when it could not be opened
 };
 
 // Opens path: finds the kind from the root element, loads it through the library. On failure every

@@ -6,7 +6,8 @@
 
 #include "OrvelianInventorySchema.h"
 
-namespace {
+namespace
+{
 
 constexpr std::string_view type_prefix = "ORVL_ENTITY_TYPE_";
 constexpr std::string_view subtype_prefix = "ORVL_ENTITY_SUBTYPE_";
@@ -28,7 +29,8 @@ std::string without_prefix(std::string_view token, std::string_view prefix)
 
 }  // namespace
 
-namespace invctl {
+namespace invctl
+{
 
 std::string type_word(const sch_base_entity_type &entity)
 {
@@ -52,12 +54,30 @@ std::string eid_level(const sch_base_entity_type &entity)
     return type_word(entity) + "." + subtype_word(entity) + "." + std::to_string(entity.instance);
 }
 
+std::string schema_word(const char *token, const char *prefix)
+{
+    return without_prefix(token, prefix);
+}
+
 std::optional<uint8_t> type_of_word(const std::string &word)
 {
     for (uint8_t type = 0; type < type_count; ++type) {
         const char *token = EidType_ToString(type);
-        if (lower(word) == without_prefix(token, type_prefix) || word == token || word == std::to_string(type))
+        if (lower(word) == without_prefix(token, type_prefix) || word == token ||
+            word == std::to_string(type))
             return type;
+    }
+    return std::nullopt;
+}
+
+std::optional<uint32_t> subtype_code_of_word(uint8_t type, const std::string &word)
+{
+    sch_base_entity_type entity = {};
+    entity.type = type;
+    for (uint16_t code = 0; code <= ORVL_ENTITY_SUBTYPE_INVALID; ++code) {
+        entity.global_subtype = code;
+        if (lower(word) == subtype_word(entity))
+            return code;
     }
     return std::nullopt;
 }

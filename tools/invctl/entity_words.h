@@ -7,7 +7,8 @@
 
 #include "inv_parser/inv_parser.h"
 
-namespace invctl {
+namespace invctl
+{
 
 std::string type_word(const sch_base_entity_type &entity);
 
@@ -19,8 +20,14 @@ std::string owner_word(const sch_base_entity_type &entity);
 // "module.mother_board.0": one level of an EID.
 std::string eid_level(const sch_base_entity_type &entity);
 
+// A token as a word: without its prefix, in lower case.
+std::string schema_word(const char *token, const char *prefix);
+
 // The entity type that a word, a token or a number names.
 std::optional<uint8_t> type_of_word(const std::string &word);
+
+// The schema's code of the subtype that a word of subtype_word() names for an entity of the type.
+std::optional<uint32_t> subtype_code_of_word(uint8_t type, const std::string &word);
 
 // All words of entity types, for messages: "chassis, backplane, ...".
 std::string all_type_words();

@@ -2,7 +2,8 @@
 #ifndef INVCTL_EXIT_CODES_H
 #define INVCTL_EXIT_CODES_H
 
-namespace invctl {
+namespace invctl
+{
 
 enum exit_code {
     exit_ok = 0,

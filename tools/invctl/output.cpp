@@ -8,7 +8,8 @@
 
 #include "exit_codes.h"
 
-namespace {
+namespace
+{
 
 int first_error = 0;
 
@@ -20,7 +21,8 @@ void remember_error()
 
 }  // namespace
 
-namespace invctl {
+namespace invctl
+{
 
 void write_out(const std::string &text)
 {

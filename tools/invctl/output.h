@@ -4,7 +4,8 @@
 
 #include <string>
 
-namespace invctl {
+namespace invctl
+{
 
 // Writes text to standard output.
 void write_out(const std::string &text);

@@ -8,7 +8,8 @@
 
 #include <stddef.h>
 
-namespace inv::memory {
+namespace inv::memory
+{
 
 // Zero-filled memory from the process heap, or null. Free with release().
 void *request(size_t size);

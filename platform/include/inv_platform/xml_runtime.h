@@ -102,13 +102,13 @@ typedef struct xb_xmlns {
 /* One recorded error. All pointers stay valid until rtxFreeContext(). */
 typedef struct xb_error {
     int32_t status;
-    bool fatal;                    /* it ended the decode (attribute errors do not) */
-    uint64_t line;                 /* 1-based line in the document; 0 when there is no document */
-    uint64_t column;               /* 1-based column, counted in characters */
-    uint64_t offset;               /* 0-based octet offset in the document */
-    const char *source;            /* generated source name of the innermost failing step; "" when
-                                      the runtime recorded the failure by itself */
-    uint32_t source_line;          /* its step number */
+    bool fatal;           /* it ended the decode (attribute errors do not) */
+    uint64_t line;        /* 1-based line in the document; 0 when there is no document */
+    uint64_t column;      /* 1-based column, counted in characters */
+    uint64_t offset;      /* 0-based octet offset in the document */
+    const char *source;   /* generated source name of the innermost failing step; "" when
+                             the runtime recorded the failure by itself */
+    uint32_t source_line; /* its step number */
     uint32_t parameter_count;
     const char *const *parameters; /* texts, integers already formatted */
 } xb_error;

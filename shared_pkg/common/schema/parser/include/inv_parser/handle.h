@@ -28,12 +28,12 @@ struct sch_module_type;
 /* One entry of an xml-instance index: who has this xml instance, and over which port of which
  * entity it is reached. Belongs to the handle whose index holds it. */
 typedef struct sch_xml_inst_node_type {
-    void *avl_links[3];           /* the AVL library's */
-    uint32_t xml_instance;        /* key */
-    uint32_t parent_xml_instance; /* xml instance of the entity whose port leads here */
-    uint32_t channel;             /* I2C: channel of that port; PCIe: its port number */
-    uint32_t pcie_dest;           /* PCIe only: the destination's 16-bit device id */
-    uint8_t entity_present;       /* 1 once an entity with this xml instance is registered */
+    void *avl_links[3];                         /* the AVL library's */
+    uint32_t xml_instance;                      /* key */
+    uint32_t parent_xml_instance;               /* xml instance of the entity whose port leads here */
+    uint32_t channel;                           /* I2C: channel of that port; PCIe: its port number */
+    uint32_t pcie_dest;                         /* PCIe only: the destination's 16-bit device id */
+    uint8_t entity_present;                     /* 1 once an entity with this xml instance is registered */
     struct sch_base_entity_type *entity;        /* that entity; null until it is registered */
     struct sch_base_entity_type *parent_entity; /* owner of the port; null at the topmost device */
 } sch_xml_inst_node_type;
@@ -53,18 +53,18 @@ typedef struct sch_cc_slot_xml_inst_type {
  * pass it back; only the library writes it. Units whose hardware types map to one file share one
  * handle; the type fields are the first opener's. */
 typedef struct inv_xml_handle {
-    struct inv_xml_handle *next; /* next registered handle; null at the tail */
-    uint32_t inv_type;           /* inventory type given by the first opener (8 bits) */
-    uint32_t pi_hw_type;         /* platform-independent hardware type; selects the document kind */
-    uint32_t pd_hw_type;         /* platform-dependent hardware type */
-    uint8_t state;               /* INV_HANDLE_PARSED or INV_HANDLE_REGISTERED */
-    uint16_t file_count;         /* successful opens not yet closed; wraps below 0 to 65535 */
-    char file_name[INV_FILE_NAME_SIZE]; /* the platform's name for the file; the registry's key */
-    eid_chain_node *root;               /* entity tree, once loaded; may be null all the same */
+    struct inv_xml_handle *next;           /* next registered handle; null at the tail */
+    uint32_t inv_type;                     /* inventory type given by the first opener (8 bits) */
+    uint32_t pi_hw_type;                   /* platform-independent hardware type; selects the document kind */
+    uint32_t pd_hw_type;                   /* platform-dependent hardware type */
+    uint8_t state;                         /* INV_HANDLE_PARSED or INV_HANDLE_REGISTERED */
+    uint16_t file_count;                   /* successful opens not yet closed; wraps below 0 to 65535 */
+    char file_name[INV_FILE_NAME_SIZE];    /* the platform's name for the file; the registry's key */
+    eid_chain_node *root;                  /* entity tree, once loaded; may be null all the same */
     struct sch_module_type *module_record; /* record of a module document; null for other kinds */
     avl_root pcie_xml_inst_index;          /* sch_xml_inst_node_type by PCIe xml instance */
     sch_cc_slot_xml_inst_type *pcie_cc_slot_lists[INV_CC_SLOT_LIST_COUNT]; /* by node type */
-    avl_root i2c_xml_inst_index;           /* sch_xml_inst_node_type by I2C xml instance */
+    avl_root i2c_xml_inst_index; /* sch_xml_inst_node_type by I2C xml instance */
     sch_cc_slot_xml_inst_type *i2c_cc_slot_lists[INV_CC_SLOT_LIST_COUNT];
 } inv_xml_handle;
 

@@ -7,6 +7,7 @@
 #define INV_PARSER_INV_PARSER_H
 
 #include "inv_parser/access_records.h"
+#include "inv_parser/access_sequences.h"
 #include "inv_parser/base_entity.h"
 #include "inv_parser/component_records.h"
 #include "inv_parser/eid.h"

@@ -28,11 +28,11 @@ int32_t parser_retrieve_module_data(inv_xml_handle *handle);
 
 /* The other kinds return 0 also when the file could not be read or decoded, with a trace: the
  * handle then has an empty tree. Kept: clients rely on the open to succeed. */
-int32_t parser_retrieve_chassis_data(inv_xml_handle *handle);            /* traces 244, 245 */
-int32_t parser_retrieve_pem_xml_data(inv_xml_handle *handle);            /* traces 250, 251 */
-int32_t parser_retrieve_powershelf_xml_data(inv_xml_handle *handle);     /* traces 252, 253 */
+int32_t parser_retrieve_chassis_data(inv_xml_handle *handle);              /* traces 244, 245 */
+int32_t parser_retrieve_pem_xml_data(inv_xml_handle *handle);              /* traces 250, 251 */
+int32_t parser_retrieve_powershelf_xml_data(inv_xml_handle *handle);       /* traces 252, 253 */
 int32_t parser_retrieve_cxp_fixed_optics_xml_data(inv_xml_handle *handle); /* traces 255, 256 */
-int32_t parser_retrieve_fantray_xml_data(inv_xml_handle *handle);        /* traces 257, 258 */
+int32_t parser_retrieve_fantray_xml_data(inv_xml_handle *handle);          /* traces 257, 258 */
 
 /* Record of the document of each kind that was loaded last, complete or not; null before the first
  * and after an allocation failure. Overwritten by the next load of the kind and never cleared: it

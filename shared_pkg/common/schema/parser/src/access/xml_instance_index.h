@@ -1,4 +1,4 @@
-// The xml-instance indexes of a file, as the builders fill them.
+// The xml-instance indexes of a file: lookup, and how the builders fill them.
 #ifndef ACCESS_XML_INSTANCE_INDEX_H
 #define ACCESS_XML_INSTANCE_INDEX_H
 
@@ -11,15 +11,21 @@
 namespace inv
 {
 
+// The index's node of an xml instance, or null.
+inline sch_xml_inst_node_type *find_index_node(avl_root *index, uint32_t xml_instance)
+{
+    sch_xml_inst_node_type key = {};
+    key.xml_instance = xml_instance;
+    return static_cast<sch_xml_inst_node_type *>(avl_search(index, &key, parser_xml_inst_compare));
+}
+
 // The index's node of an xml instance, made if there is none yet: whichever of the entity and the
 // destination that names it comes first creates it, the other completes it. Null after a traced failure.
 template <class NoMemory, class InsertFailed>
 sch_xml_inst_node_type *obtain_index_node(avl_root *index, uint32_t xml_instance)
 {
-    sch_xml_inst_node_type key = {};
-    key.xml_instance = xml_instance;
-    if (void *known = avl_search(index, &key, parser_xml_inst_compare))
-        return static_cast<sch_xml_inst_node_type *>(known);
+    if (sch_xml_inst_node_type *known = find_index_node(index, xml_instance))
+        return known;
     auto *node = record_new<sch_xml_inst_node_type>();
     if (node == nullptr) {
         trace<NoMemory>();

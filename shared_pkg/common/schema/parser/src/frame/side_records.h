@@ -25,7 +25,16 @@ void *get_side_table(const inv_xml_handle *handle, side_table which) noexcept;
 bool set_side_table(const inv_xml_handle *handle, side_table which, void *table,
                     side_table_release release) noexcept;
 
-// Which kind of document was loaded into the handle, in the loaders' own numbers; 0: none that is known.
+enum loaded_document : uint8_t {
+    loaded_chassis_document = 1,
+    loaded_module_document,
+    loaded_fan_tray_document,
+    loaded_power_shelf_document,
+    loaded_pem_document,
+    loaded_optics_document
+};
+
+// Which kind of document was loaded into the handle, of those above or a loader's own; 0: none that is known.
 uint8_t loaded_kind(const inv_xml_handle *handle) noexcept;
 void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind) noexcept;
 

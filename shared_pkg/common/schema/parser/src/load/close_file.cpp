@@ -4,6 +4,7 @@
 #include "inv_parser/frame.h"
 #include "inv_parser/tree_internal.h"
 #include "load/document_kind.h"
+#include "tree/current_file.h"
 
 namespace
 {
@@ -47,9 +48,12 @@ void release_document(inv_xml_handle *handle)
 void close_last(inv_xml_handle *handle)
 {
     inv_schema_update_the_xml_handle_list(handle);
-    // The tree goes: a builder that is called directly afterwards must not look for parents in it.
+    // A builder that is called directly afterwards must neither look for parents in the tree that goes
+    // nor file anything under its handle.
     if (root_eid == handle->root)
         root_eid = nullptr;
+    if (current_file() == handle)
+        parser_set_inv_file_instance(nullptr);
     parser_avl_delete_inst_tree(&handle->i2c_xml_inst_index, parser_xml_inst_compare);
     parser_avl_delete_inst_tree(&handle->pcie_xml_inst_index, parser_xml_inst_compare);
     parser_free_cc_slot_xml_inst(handle->i2c_cc_slot_lists);

@@ -2,6 +2,7 @@
 #ifndef INV_LOAD_DOCUMENT_KIND_H
 #define INV_LOAD_DOCUMENT_KIND_H
 
+#include "frame/side_records.h"
 #include "inv_parser/handle.h"
 
 #include <stdint.h>
@@ -21,6 +22,8 @@ enum class document_kind : uint8_t {
     // It has no actions: no release may take that record for the unit's.
     without_unit
 };
+static_assert(static_cast<uint8_t>(document_kind::chassis) == loaded_chassis_document);
+static_assert(static_cast<uint8_t>(document_kind::cxp_optics) == loaded_optics_document);
 
 struct kind_actions {
     const char *name;                   // as trace lines have it

@@ -9,16 +9,25 @@ using namespace inv;
 namespace
 {
 
+// False for a result that was loaded as another kind: its record is none of this one. It goes with its file.
+bool may_hold(const inv_xml_handle *result, loaded_document kind)
+{
+    uint8_t loaded = loaded_kind(result);
+    return loaded == 0 || loaded == kind;
+}
+
 // Kept: when the handle, its root or the root's record is missing nothing at all is released.
 template <class Record, class Release>
-void free_result(inv_xml_handle *result, Release release_owned)
+void free_result(inv_xml_handle *result, loaded_document kind, Release release_owned)
 {
     if (result == nullptr || result->root == nullptr || result->root->record == nullptr)
         return;
-    // The base entity stands first in every unit's record.
-    auto *record = reinterpret_cast<Record *>(result->root->record);
-    release_owned(record);
-    record_free(record);
+    if (may_hold(result, kind)) {
+        // The base entity stands first in every unit's record.
+        auto *record = reinterpret_cast<Record *>(result->root->record);
+        release_owned(record);
+        record_free(record);
+    }
     inv_schema_free_eid_chain_list(result->root);
     handle_forget(result);
 }
@@ -62,27 +71,28 @@ void release_power_shelf(sch_power_shelf_type *record)
 
 void inv_schema_free_chassis_data(inv_xml_handle *result)
 {
-    free_result<sch_chassis_type>(result, release_chassis);
+    free_result<sch_chassis_type>(result, loaded_chassis_document, release_chassis);
 }
 
 void inv_schema_free_pem_data(inv_xml_handle *result)
 {
-    free_result<sch_pem_type>(result, release_module_with_fans<sch_pem_type>);
+    free_result<sch_pem_type>(result, loaded_pem_document, release_module_with_fans<sch_pem_type>);
 }
 
 void inv_schema_free_fan_tray_data(inv_xml_handle *result)
 {
-    free_result<sch_fan_tray_type>(result, release_module_with_fans<sch_fan_tray_type>);
+    free_result<sch_fan_tray_type>(result, loaded_fan_tray_document,
+                                   release_module_with_fans<sch_fan_tray_type>);
 }
 
 void inv_schema_free_power_shelf_data(inv_xml_handle *result)
 {
-    free_result<sch_power_shelf_type>(result, release_power_shelf);
+    free_result<sch_power_shelf_type>(result, loaded_power_shelf_document, release_power_shelf);
 }
 
 void inv_schema_free_port_module_data(inv_xml_handle *result)
 {
-    free_result<sch_module_type>(result, release_embedded_module);
+    free_result<sch_module_type>(result, loaded_optics_document, release_embedded_module);
 }
 
 void inv_schema_free_base_module_data(inv_xml_handle *result)

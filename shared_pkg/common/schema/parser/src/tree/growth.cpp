@@ -167,17 +167,16 @@ eid_chain_node *parser_find_parent_node(sch_base_entity_type *record, eid_chain_
     return find_first_entity(list, [record](const eid_chain_node *node) { return node->record == record; });
 }
 
+// The last node of a level goes on with its children in this loop, so that only side branches take stack.
+// Nothing is relinked: the nodes of a file outlive this.
 void inv_schema_free_eid_chain_list(eid_chain_node *first)
 {
-    eid_chain_node *last = first;
     while (first != nullptr) {
-        // Each level joins the end of the list: however deep the tree, nothing recurses.
-        while (last->next_sibling != nullptr)
-            last = last->next_sibling;
-        last->next_sibling = first->first_child;
-        eid_chain_node *next = first->next_sibling;
-        last = last == first ? next : last;
+        eid_chain_node *children = first->first_child;
+        eid_chain_node *following = first->next_sibling;
+        if (following != nullptr)
+            inv_schema_free_eid_chain_list(children);
         record_free(first);
-        first = next;
+        first = following != nullptr ? following : children;
     }
 }
