@@ -12,8 +12,8 @@ namespace inv
 {
 
 // Tables that make queries on a handle fast; each subsystem owns its own.
-enum class side_table : uint8_t { eid_lookup, i2c_slots, pcie_slots, tree_growth };
-inline constexpr size_t side_table_count = 4;
+enum class side_table : uint8_t { eid_lookup };
+inline constexpr size_t side_table_count = 1;
 
 using side_table_release = void (*)(void *table);
 

@@ -4,6 +4,7 @@
 #include "inv_parser/release.h"
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/system_memory.h"
+#include "tree/eid_lookup.h"
 #include "tree/entity_walk.h"
 #include "tree/pointer_hash.h"
 
@@ -139,6 +140,7 @@ tree_growth_scope::~tree_growth_scope()
 
 void parser_update_eid_chain(sch_base_entity_type *record, sch_base_entity_type *parent_record)
 {
+    note_tree_growth();
     if (root_eid == nullptr) {
         make_root(record, parent_record);
         return;

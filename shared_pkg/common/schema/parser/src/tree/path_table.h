@@ -1,4 +1,4 @@
-// Finding many entities by their EIDs: a table of one tree's paths, made for one query.
+// Finding many entities by their EIDs: a table of one tree's paths.
 #ifndef TREE_PATH_TABLE_H
 #define TREE_PATH_TABLE_H
 
@@ -20,7 +20,8 @@ public:
     path_table(const path_table &) = delete;
     path_table &operator=(const path_table &) = delete;
 
-    // Takes in the tree of root_eid. False, and the table must not be used, when memory is out.
+    // Takes in the tree of root_eid. False, and the table must not be used, when memory is out; may be
+    // tried again.
     bool build() noexcept;
 
     eid_chain_node *find(const sch_eid_type &eid) const noexcept;

@@ -5,6 +5,7 @@
 #include "frame/trace.h"
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/system_memory.h"
+#include "tree/eid_lookup.h"
 #include "tree/eid_walks.h"
 #include "tree/entity_walk.h"
 
@@ -95,7 +96,7 @@ uint32_t find_record(inv_xml_handle *handle, sch_base_entity_type **out, sch_eid
 {
     if (!enter_tree<msg::eid_data_no_root>(handle))
         return 1;
-    const eid_chain_node *node = parser_find_entity(root_eid, eid);
+    const eid_chain_node *node = find_entity_of(handle, eid);
     *out = node == nullptr ? nullptr : node->record;
     return node == nullptr ? 1 : 0;
 }
@@ -143,7 +144,7 @@ uint32_t collect_tree(inv_xml_handle *handle, uint32_t owner, const sch_eid_type
     eid_chain_node *start = root_eid;
     if (eid != nullptr) {
         sch_eid_type wanted = *eid;
-        start = parser_find_entity(root_eid, &wanted);
+        start = find_entity_of(handle, &wanted);
     }
     if (start == nullptr) {
         *out = nullptr;

@@ -1,0 +1,156 @@
+// Looking an EID up in a handle's tree: the table a handle keeps answers as the literal search does.
+#include "frame/file_memory.h"
+#include "inv_parser/queries.h"
+#include "inv_parser/release.h"
+#include "inv_parser/tree_internal.h"
+#include "support/counting_memory.h"
+#include "tree/eid_lookup.h"
+#include "unit/tree_samples.h"
+
+#include <gtest/gtest.h>
+
+using namespace tree_samples;
+
+namespace
+{
+
+// A sample tree whose handle the library keeps private data about, as it does for registered files.
+struct known_sample : sample {
+    known_sample()
+    {
+        EXPECT_TRUE(inv::frame::add_side_record(&handle));
+    }
+    ~known_sample()
+    {
+        inv::release_file_memory(&handle);
+        root_eid = nullptr;
+    }
+};
+
+void grow_random(sample &tree, std::mt19937 &random, uint32_t size)
+{
+    for (uint32_t i = 0; i < size; ++i) {
+        eid_chain_node *parent =
+            i == 0 ? nullptr : &tree.nodes[draw(random, 4) != 0 ? i - 1 : draw(random, i)];
+        tree.add(parent,
+                 {static_cast<uint8_t>(draw(random, 2)), static_cast<uint16_t>(draw(random, 2) * 256u),
+                  static_cast<uint16_t>(draw(random, 3))});
+    }
+}
+
+sch_eid_type draw_eid(sample &tree, std::mt19937 &random)
+{
+    sch_eid_type eid = {};
+    parser_populate_parent_eid_data(&tree.nodes[draw(random, static_cast<uint32_t>(tree.nodes.size()))],
+                                    &eid);
+    if (draw(random, 3) == 0)
+        eid.depth = static_cast<uint8_t>(draw(random, 19));
+    if (draw(random, 3) == 0)
+        eid.levels[draw(random, INV_EID_MAX_DEPTH)].instance ^= 1;
+    return eid;
+}
+
+TEST(EidLookup, repeated_lookups_answer_as_the_literal_search_does)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 1000; ++round) {
+        known_sample tree;
+        grow_random(tree, random, 1 + draw(random, 40));
+        root_eid = tree.handle.root;
+        for (int i = 0; i < 20; ++i) {
+            sch_eid_type eid = draw_eid(tree, random);
+            ASSERT_EQ(inv::find_entity_of(&tree.handle, &eid), parser_find_entity(root_eid, &eid));
+        }
+    }
+}
+
+TEST(EidLookup, an_entity_hung_in_later_is_found_and_an_earlier_one_of_its_path_wins)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    eid_chain_node *first = tree.add(root, {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type late = eid_of({{9, 1, 0}, {8, 2, 7}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &late), nullptr);
+    sch_base_entity_type *record = tree.record({8, 2, 7});
+    parser_update_eid_chain(record, root->record);
+    for (int i = 0; i < 3; ++i) {
+        eid_chain_node *found = inv::find_entity_of(&tree.handle, &late);
+        ASSERT_NE(found, nullptr);
+        EXPECT_EQ(found->record, record);
+        EXPECT_EQ(found, first->next_sibling);
+    }
+    inv_schema_free_eid_chain_list(first->next_sibling);
+    first->next_sibling = nullptr;
+}
+
+TEST(EidLookup, an_entity_whose_triple_was_changed_is_found_by_its_new_eid_only)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    eid_chain_node *child = tree.add(root, {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type before = eid_of({{9, 1, 0}, {8, 1, 1}});
+    sch_eid_type after = eid_of({{9, 1, 0}, {8, 1, 2}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &before), child);
+    child->record->instance = 2;
+    EXPECT_EQ(inv::find_entity_of(&tree.handle, &before), nullptr);
+    EXPECT_EQ(inv::find_entity_of(&tree.handle, &after), child);
+}
+
+TEST(EidLookup, without_memory_the_literal_search_answers_and_nothing_is_traced_or_lost)
+{
+    uint64_t before = counting_memory::live();
+    {
+        known_sample tree;
+        eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+        eid_chain_node *child = tree.add(root, {8, 1, 1});
+        root_eid = tree.handle.root;
+        sch_eid_type eid = eid_of({{9, 1, 0}, {8, 1, 1}});
+        for (uint64_t n = 1; n <= 4; ++n) {
+            counting_memory::fail_at(n, true);
+            for (int i = 0; i < 4; ++i)
+                EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), child);
+            counting_memory::reset();
+        }
+    }
+    EXPECT_EQ(counting_memory::live(), before);
+}
+
+TEST(EidLookup, a_handle_that_the_registry_did_not_make_takes_no_memory)
+{
+    sample tree;
+    tree.add(tree.add(nullptr, {9, 1, 0}), {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 1, 1}});
+    uint64_t before = counting_memory::live();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NE(inv::find_entity_of(&tree.handle, &eid), nullptr);
+    EXPECT_EQ(counting_memory::live(), before);
+    root_eid = nullptr;
+}
+
+TEST(EidLookup, from_the_second_lookup_on_no_node_but_the_answers_is_walked)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    eid_chain_node *last = nullptr;
+    for (uint32_t i = 0; i < 1000; ++i)
+        last = tree.add_behind(last, root, {8, 1, static_cast<uint16_t>(i)});
+    root_eid = tree.handle.root;
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 1, 500}});
+    for (int i = 0; i < 2; ++i)
+        EXPECT_NE(inv::find_entity_of(&tree.handle, &eid), nullptr);
+    // Cut off from below the root, the entities are out of every walk's reach.
+    eid_chain_node *children = root->first_child;
+    root->first_child = nullptr;
+    for (uint32_t i = 0; i < 1000; ++i) {
+        eid = eid_of({{9, 1, 0}, {8, 1, static_cast<uint16_t>(i)}});
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), &tree.nodes[i + 1]);
+    }
+    root->first_child = children;
+}
+
+}  // namespace
