@@ -19,7 +19,7 @@ cmake --preset $(1) --log-level=WARNING >/dev/null
 cmake --build --preset $(1) -j $(JOBS) $(2)
 endef
 
-.PHONY: help run test check bench regenerate install format tidy clean
+.PHONY: help run test check bench regenerate install format clean
 .PHONY: check-clang check-asan check-tsan check-fuzz check-format
 
 help: ## this list
@@ -39,9 +39,10 @@ test: ## one build and its tests
 
 check: check-format check-clang check-asan check-tsan check-fuzz ## second compiler, sanitizers, the slow rest
 
-check-clang: ## build with the second compiler
+check-clang: ## build and all tests with the second compiler
 	$(call packages,build test check)
 	$(call build,clang)
+	ctest --preset clang
 
 check-asan: ## all tests under the address and undefined-behaviour sanitizers
 	$(call packages,build test check)
