@@ -230,27 +230,21 @@ TYPED_TEST(FromControlCard, a_device_without_way_fails_with_the_builds_traces)
 TYPED_TEST(FromControlCard, each_allocation_that_fails_is_traced_and_nothing_is_left)
 {
     this->add_slot(41, 7, 52, 8);
-    const id_list expected[] = {
-        {TypeParam::card.no_memory},
-        {TypeParam::no_memory, TypeParam::card.slot0_failed},
-        {TypeParam::no_memory, TypeParam::card.slot1_failed},
-        {TypeParam::no_memory},
-        {TypeParam::card.slot0_no_memory},
-        {TypeParam::card.slot1_no_memory},
-    };
-    uint64_t live = counting_memory::live();
-    for (uint64_t n = 1; n <= std::size(expected); ++n) {
-        counting_memory::fail_at(n);
-        EXPECT_EQ(this->build(), 1u) << n;
-        EXPECT_TRUE(counting_memory::failed()) << n;
-        EXPECT_TRUE(this->is_untouched());
-        EXPECT_EQ(this->traced(), expected[n - 1]) << n;
-        EXPECT_EQ(counting_memory::live(), live) << n;
-    }
-    counting_memory::fail_at(std::size(expected) + 1);
-    ASSERT_EQ(this->build(), 0u);
-    EXPECT_FALSE(counting_memory::failed());
-    inv_parser_free_remote_i2c_access_sequence(this->made);
+    this->fail_each_request(
+        [this] {
+            bool is_built = this->build() == 0;
+            EXPECT_NE(this->is_untouched(), is_built);
+            return is_built;
+        },
+        [this] { inv_parser_free_remote_i2c_access_sequence(this->made); },
+        {
+            {TypeParam::card.no_memory},
+            {TypeParam::no_memory, TypeParam::card.slot0_failed},
+            {TypeParam::no_memory, TypeParam::card.slot1_failed},
+            {TypeParam::no_memory},
+            {TypeParam::card.slot0_no_memory},
+            {TypeParam::card.slot1_no_memory},
+        });
 }
 
 class I2cFromControlCard : public FromControlCard<i2c>

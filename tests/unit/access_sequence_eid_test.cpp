@@ -84,13 +84,12 @@ TEST_F(I2cByEid, the_result_is_the_lookups_also_without_memory)
 {
     file.chain<i2c>(40, 2);
     sch_eid_type eid = file.eid(41);
-    build(eid);  // whatever the lookup keeps is made now
-    i2c::release(made);
-    counting_memory::fail_at(1);
-    EXPECT_EQ(build(eid), 0u);
-    EXPECT_TRUE(counting_memory::failed());
-    EXPECT_EQ(made, as_before);
-    EXPECT_EQ(traced(), id_list{i2c::no_memory});
+    fail_each_request(
+        [&] {
+            EXPECT_EQ(build(eid), 0u);
+            return made != as_before;
+        },
+        [this] { i2c::release(made); }, {{i2c::no_memory}});
 }
 
 TEST_F(I2cByEid, the_output_is_null_where_an_instance_is_too_large_or_a_hop_has_no_entity)
@@ -172,13 +171,13 @@ TEST_F(PcieByEid, without_memory_the_build_fails)
 {
     file.chain<pcie>(40, 2);
     sch_eid_type eid = file.eid(41);
-    build(eid);
-    pcie::release(made);
-    counting_memory::fail_at(1);
-    EXPECT_EQ(build(eid), 1u);
-    EXPECT_TRUE(counting_memory::failed());
-    EXPECT_EQ(made, untouched<sch_pcie_access_seq_type>());
-    EXPECT_EQ(traced(), (id_list{pcie::no_memory, 70}));
+    fail_each_request(
+        [&] {
+            bool is_built = build(eid) == 0;
+            EXPECT_EQ(made != untouched<sch_pcie_access_seq_type>(), is_built);
+            return is_built;
+        },
+        [this] { pcie::release(made); }, {{pcie::no_memory, 70}});
 }
 
 }  // namespace

@@ -267,6 +267,18 @@ TEST_F(ContainerIdprom, a_null_record_is_traced)
     EXPECT_EQ(traced(), id_list{75});
 }
 
+TEST_F(ContainerIdprom, a_chassis_is_found_whoever_owns_it)
+{
+    for (uint32_t owner = 0; owner <= 6; ++owner) {
+        hand_made_file file;
+        sch_base_entity_type *entity = file.entity(1);
+        entity->type = 3;
+        entity->owner = owner;
+        EXPECT_EQ(build(&file.handle, line_card), 1u);
+        EXPECT_EQ(traced(), id_list{76}) << "found, but without containers; owner " << owner;
+    }
+}
+
 TEST_F(ContainerIdprom, an_entity_that_only_calls_itself_a_chassis_has_no_containers)
 {
     hand_made_file file;
@@ -300,23 +312,8 @@ TEST_F(ContainerIdprom, a_chassis_without_slots_of_that_kind_is_traced)
 TEST_F(ContainerIdprom, each_allocation_that_fails_leaves_nothing)
 {
     opened_document chassis(sample_folder + "chassis.xml", chassis_type);
-    ASSERT_EQ(build(chassis.handle, line_card), 0u);
-    i2c::release(made);
-    uint64_t live = counting_memory::live();
-    uint64_t n = 1;
-    for (;; ++n) {
-        counting_memory::fail_at(n);
-        uint32_t result = build(chassis.handle, line_card);
-        if (!counting_memory::failed()) {
-            EXPECT_EQ(result, 0u);
-            i2c::release(made);
-            break;
-        }
-        EXPECT_EQ(result, 1u) << n;
-        EXPECT_EQ(counting_memory::live(), live) << n;
-    }
-    EXPECT_EQ(n, 3u) << "the EIDs and the sequence";
-    EXPECT_EQ(traced(), (id_list{101, 73, 71}));
+    fail_each_request([&] { return build(chassis.handle, line_card) == 0; }, [this] { i2c::release(made); },
+                      {{101, 73}, {71}});
 }
 
 class RemoteIdprom : public SequenceTest
@@ -426,6 +423,34 @@ TEST_F(RemoteIdprom, an_idprom_without_way_is_traced)
     EXPECT_EQ(traced(), (id_list{72, 78}));
 }
 
+TEST_F(RemoteIdprom, a_null_chassis_fails_in_the_lookup_before_the_card_is_looked_at)
+{
+    for (inv_xml_handle *from : {&card.handle, static_cast<inv_xml_handle *>(nullptr)}) {
+        made = untouched<sch_i2c_access_seq_pair_type>();
+        EXPECT_EQ(inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card(from, nullptr, line_card,
+                                                                                     position, &made),
+                  1u);
+        EXPECT_EQ(made, untouched<sch_i2c_access_seq_pair_type>());
+        EXPECT_EQ(traced(), (id_list{95, 100, 73, 78}));
+    }
+}
+
+TEST_F(RemoteIdprom, positions_are_compared_by_16_bits_and_the_first_match_counts)
+{
+    card.slot<i2c>(line_card, static_cast<uint16_t>(position + 1), 52, 9, 0, 0);
+    card.slot<i2c>(line_card, position, 41, 7, 0, 0);
+    card.slot<i2c>(line_card, position, 52, 8, 52, 8);
+    for (uint32_t at : {position, position + 0x10000}) {
+        ASSERT_EQ(inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card(
+                      &card.handle, chassis.handle, line_card, at, &made),
+                  0u);
+        EXPECT_EQ(made->slot0->hops[1].xml_instance, 41);
+        EXPECT_EQ(made->slot0->hops[1].channel, 7u);
+        EXPECT_EQ(made->slot1, nullptr);
+        inv_parser_free_remote_i2c_access_sequence(made);
+    }
+}
+
 TEST_F(RemoteIdprom, a_null_card_fails_and_frees_what_was_built)
 {
     EXPECT_EQ(build(nullptr), 1u);
@@ -450,21 +475,9 @@ TEST_F(RemoteIdprom, a_slot_whose_parent_has_no_way_fails)
 TEST_F(RemoteIdprom, each_allocation_that_fails_is_traced_and_nothing_is_left)
 {
     card.slot<i2c>(line_card, position, 41, 7, 52, 8);
-    ASSERT_EQ(build(&card.handle), 0u);
-    inv_parser_free_remote_i2c_access_sequence(made);
-    const id_list expected[] = {{77}, {101, 73, 78}, {71, 78}, {58, 79}, {80}, {58, 81}, {82}};
-    uint64_t live = counting_memory::live();
-    for (uint64_t n = 1; n <= std::size(expected); ++n) {
-        counting_memory::fail_at(n);
-        EXPECT_EQ(build(&card.handle), 1u) << n;
-        EXPECT_TRUE(counting_memory::failed()) << n;
-        EXPECT_EQ(traced(), expected[n - 1]) << n;
-        EXPECT_EQ(counting_memory::live(), live) << n;
-    }
-    counting_memory::fail_at(std::size(expected) + 1);
-    ASSERT_EQ(build(&card.handle), 0u);
-    EXPECT_FALSE(counting_memory::failed());
-    inv_parser_free_remote_i2c_access_sequence(made);
+    fail_each_request([this] { return build(&card.handle) == 0; },
+                      [this] { inv_parser_free_remote_i2c_access_sequence(made); },
+                      {{77}, {101, 73, 78}, {71, 78}, {58, 79}, {80}, {58, 81}, {82}});
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "inv_platform/avl.h"
 #include "support/counting_memory.h"
 #include "support/trace_recorder.h"
+#include "unit/access_sequence_lines.h"
 
 #include <cstdint>
 #include <cstring>
@@ -218,12 +219,43 @@ protected:
         counting_memory::reset();
         root_eid = nullptr;
     }
-    // Ids since the last call.
+    // Ids since the last call, whose lines have to be as listed.
     static id_list traced()
     {
+        expect_lines_as_listed();
         id_list ids = trace_recorder::ids();
         trace_recorder::clear();
         return ids;
+    }
+    // Lets each request of memory fail once. A lookup does without the memory that it keeps for later; every
+    // other request, in their order, fails the build with the lines expected. build() is true on success.
+    template <class Build, class Release>
+    static void fail_each_request(Build build, Release release, const std::vector<id_list> &expected)
+    {
+        for (int lookups = 0; lookups < 2; ++lookups) {  // what lookups keep is made now
+            ASSERT_TRUE(build());
+            release();
+        }
+        size_t failures = 0;
+        uint64_t refused_request = 0;
+        uint64_t live = counting_memory::live();
+        for (bool is_refused = true; is_refused;) {
+            static_cast<void>(traced());
+            counting_memory::fail_at(++refused_request);
+            bool is_built = build();
+            is_refused = counting_memory::failed();
+            counting_memory::reset();
+            if (is_built) {
+                release();
+                EXPECT_EQ(traced(), id_list()) << refused_request;
+            } else {
+                ASSERT_TRUE(is_refused) << refused_request;
+                ASSERT_LT(failures, expected.size()) << refused_request;
+                EXPECT_EQ(traced(), expected[failures++]) << refused_request;
+            }
+            EXPECT_EQ(counting_memory::live(), live) << refused_request;
+        }
+        EXPECT_EQ(failures, expected.size());
     }
     // A pointer that no call stores: what an untouched output still holds.
     template <class Block>

@@ -120,7 +120,7 @@ typedef struct sch_pcie_access_seq_pair_type {
 uint32_t inv_parser_get_i2c_access_sequence_by_xml_inst(inv_xml_handle *handle, int32_t xml_instance,
                                                         sch_i2c_access_seq_type **out);
 
-/* The same for the entity that *eid names.
+/* The same for the entity that *eid names, released alike.
  *
  * Kept: returns the result of the lookup whatever becomes of the sequence. Set *out to null before the
  * call and judge success by it: a failed build leaves it untouched, or null where the form by xml
@@ -188,7 +188,8 @@ uint32_t inv_parser_get_pcie_access_sequence_by_xml_inst(inv_xml_handle *handle,
                                                          sch_pcie_access_seq_type **out);
 
 /* The same for the entity that *eid names, without the target's own hop: link port and device id of the
- * last hop lead to the target, and the header holds the target's xml instance.
+ * last hop lead to the target, and the header holds the target's xml instance. Release with
+ * inv_parser_free_pcie_access_sequence().
  *
  * Unlike its I2C sibling it returns 1 whenever there is no sequence: no entity has the EID (69), or the
  * way cannot be built (70 after the lines of the form by xml instance, with its effect on *out). */

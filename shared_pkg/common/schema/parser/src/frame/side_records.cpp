@@ -112,6 +112,11 @@ void remove_side_record(side_record *record) noexcept
 namespace inv
 {
 
+bool has_side_record(const inv_xml_handle *handle) noexcept
+{
+    return frame::find_side_record(handle) != nullptr;
+}
+
 void *get_side_table(const inv_xml_handle *handle, side_table which) noexcept
 {
     const frame::side_record *record = frame::find_side_record(handle);

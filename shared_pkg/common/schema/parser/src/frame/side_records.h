@@ -17,6 +17,9 @@ inline constexpr size_t side_table_count = 1;
 
 using side_table_release = void (*)(void *table);
 
+// True for a handle that the registry made and that has not been released.
+bool has_side_record(const inv_xml_handle *handle) noexcept;
+
 // The table kept for a handle; null when there is none.
 void *get_side_table(const inv_xml_handle *handle, side_table which) noexcept;
 

@@ -32,9 +32,12 @@ void release_lookup(void *table)
     memory::release(lookup);
 }
 
-// The handle's lookup for the tree as it is now; null when it was never asked before, or without memory.
+// The handle's lookup for the tree as it is now; null when it was never asked before, without memory, and
+// for a handle that nothing can be kept with.
 eid_lookup *current_lookup(const inv_xml_handle *handle)
 {
+    if (!has_side_record(handle))
+        return nullptr;
     auto *lookup = static_cast<eid_lookup *>(get_side_table(handle, side_table::eid_lookup));
     if (lookup != nullptr && lookup->root == root_eid && lookup->made_at == growth_count)
         return lookup;
@@ -44,8 +47,7 @@ eid_lookup *current_lookup(const inv_xml_handle *handle)
     lookup = new (storage) eid_lookup;
     lookup->root = root_eid;
     lookup->made_at = growth_count;
-    if (!set_side_table(handle, side_table::eid_lookup, lookup, release_lookup))
-        release_lookup(lookup);
+    set_side_table(handle, side_table::eid_lookup, lookup, release_lookup);
     return nullptr;
 }
 
