@@ -32,6 +32,18 @@ TEST_F(Invctl, tree_of_the_large_card_has_sixty_modules_and_more)
     EXPECT_GE(modules, 60u);
 }
 
+TEST_F(Invctl, tree_of_the_large_card_has_a_line_for_each_of_four_hundred_entities_and_more)
+{
+    outcome result = run("tree " + quoted(samples / "line_card_48.xml"));
+    EXPECT_EQ(result.exit_code, 0);
+    std::istringstream lines(result.out);
+    size_t entities = 0;
+    for (std::string line; std::getline(lines, line); ++entities)
+        EXPECT_THAT(line, testing::ContainsRegex(
+                              "[a-z_]+[.][a-z0-9_]+[.][0-9]+  \".*\"  xml [0-9]+  owner [a-z_]+$"));
+    EXPECT_GE(entities, 400u);
+}
+
 TEST_F(Invctl, depth_one_is_the_top_entity_alone)
 {
     outcome result = run("tree --depth 1 " + quoted(samples / "line_card_48.xml"));
@@ -49,6 +61,29 @@ TEST_F(Invctl, json_nests_children_and_names_the_kind)
     EXPECT_EQ(object["tree"]["type"], "module");
     EXPECT_TRUE(object["tree"]["children"].is_array());
     EXPECT_FALSE(object["tree"]["children"].empty());
+}
+
+TEST_F(Invctl, json_of_an_entity_holds_what_its_line_holds)
+{
+    outcome result = run("tree --json --depth 1 " + quoted(samples / "line_card_small.xml"));
+    ASSERT_EQ(result.exit_code, 0);
+    nlohmann::json expected = {{"type", "module"},
+                               {"subtype", "msc"},
+                               {"instance", 0},
+                               {"name", "Tutorial card"},
+                               {"xml_instance", 1},
+                               {"owner", "common"},
+                               {"children", nlohmann::json::array()}};
+    EXPECT_EQ(nlohmann::json::parse(result.out)["tree"], expected);
+}
+
+TEST_F(Invctl, json_does_not_change_the_exit_codes)
+{
+    outcome finding = run("tree --json " + quoted(write("other.xml", "<inventory/>")));
+    EXPECT_EQ(finding.exit_code, 1);
+    EXPECT_EQ(finding.out, "");
+    EXPECT_EQ(run("tree --json " + quoted(folder / "absent.xml")).exit_code, 2);
+    EXPECT_EQ(run("tree --json " + quoted(samples / "line_card_48.xml") + " >/dev/full").exit_code, 2);
 }
 
 TEST_F(Invctl, json_survives_a_name_that_the_record_cuts_inside_a_character)

@@ -2,6 +2,7 @@
 #include "invctl_fixture.h"
 
 #include <algorithm>
+#include <cstring>
 #include <set>
 
 #include <nlohmann/json.hpp>
@@ -54,6 +55,26 @@ std::string port(int channel, int destination)
            "</channelNumber><dstInfo><description>d</description><applicable>ORVL_CTRL_SLOT_ANY</applicable>"
            "<nodeInfo><nodeType>ORVL_NODE_TYPE_ENTITY</nodeType><nodePosition>" +
            std::to_string(destination) + "</nodePosition></nodeInfo></dstInfo></i2cPort>";
+}
+
+// The same for PCIe.
+std::string pcie_device(int instance, const std::string &ports)
+{
+    return "<module name=\"Device\" type=\"ORVL_ENTITY_TYPE_MODULE\" "
+           "subtype=\"ORVL_ENTITY_SUBTYPE_MODULE_MSC\" instance=\"" +
+           std::to_string(instance) + "\" replicationScope=\"ORVL_REPLICATION_TYPE_NODE\" xmlInstance=\"" +
+           std::to_string(instance) +
+           "\"><pcieNode><deviceType>ORVL_DEV_TYPE_PCISWITCH</deviceType><portNumber>00</portNumber>"
+           "</pcieNode>" +
+           ports + "</module>\n";
+}
+
+std::string pcie_port(int destination)
+{
+    return "<pciePort><portNumber>01</portNumber><dstInfo><description>d</description>"
+           "<applicable>ORVL_CTRL_SLOT_ANY</applicable><deviceId>00000001</deviceId><nodeInfo>"
+           "<nodeType>ORVL_NODE_TYPE_ENTITY</nodeType><nodePosition>" +
+           std::to_string(destination) + "</nodePosition></nodeInfo></dstInfo></pciePort>";
 }
 
 struct plugged_unit {
@@ -117,22 +138,26 @@ TEST_P(PathToUnit, every_pcie_device_is_reached_from_both_control_cards_as_the_g
 
 TEST_F(Path, every_sensor_of_a_line_card_has_an_i2c_way_from_both_slots)
 {
-    outcome result =
-        path("line_card_48.xml --all --json --from route_processor.xml --node-type 6 --position 3");
-    ASSERT_EQ(result.exit_code, 0) << result.err;
-    std::set<std::string> reached;
-    json all = json::parse(result.out);
-    for (const json &device : all["devices"])
-        if (device["paths"].size() == 2)
-            reached.insert(device["target"]["eid"]);
-    json records = json::parse(run("show --all --json " + quoted(samples / "line_card_48.xml")).out);
-    size_t sensors = 0;
-    for (const json &entity : records["entities"]) {
-        bool has_device = entity["record"] == "sensor" && !entity["fields"]["base"]["i2c_node"].is_null();
-        sensors += has_device;
-        EXPECT_TRUE(!has_device || reached.contains(entity["eid"])) << entity["eid"];
+    const std::pair<std::string, size_t> line_cards[] = {
+        {"line_card_48", 170}, {"line_card_12", 82}, {"line_card_small", 3}};
+    for (const auto &[card, sensor_count] : line_cards) {
+        outcome result =
+            path(card + ".xml --all --json --from route_processor.xml --node-type 6 --position 3");
+        ASSERT_EQ(result.exit_code, 0) << result.err;
+        std::set<std::string> reached;
+        json all = json::parse(result.out);
+        for (const json &device : all["devices"])
+            if (device["paths"].size() == 2)
+                reached.insert(device["target"]["eid"]);
+        json records = json::parse(run("show --all --json " + quoted(samples / (card + ".xml"))).out);
+        size_t sensors = 0;
+        for (const json &entity : records["entities"]) {
+            bool is_sensor = entity["record"] == "sensor";
+            sensors += is_sensor;
+            EXPECT_TRUE(!is_sensor || reached.contains(entity["eid"])) << card << " " << entity["eid"];
+        }
+        EXPECT_EQ(sensors, sensor_count) << card;
     }
-    EXPECT_GT(sensors, 20u);
 }
 
 TEST_F(Path, a_way_inside_one_document_and_one_across_two_stand_in_full)
@@ -209,6 +234,8 @@ TEST_F(Path, behind_lists_what_is_reached_through_a_mux_with_its_channel)
     json object = json::parse(path("--behind --json line_card_small.xml --instance 11").out);
     EXPECT_EQ(object["entities"].size(), 6u);
     EXPECT_EQ(object["entities"][2]["select"], "channel 0x04");
+    result = path("--behind route_processor.xml --instance 210 --bus pcie");
+    EXPECT_THAT(result.out, HasSubstr("  port 0x05  module.rp.0/module.cpu_complex.0/module.ssd.0"));
 }
 
 // ---- Devices without a path ----------------------------------------------------------------------------
@@ -275,8 +302,41 @@ TEST_F(NoPath, a_chain_with_more_hops_than_fit_is_counted)
     std::string devices;
     for (int i = 0; i < 26; ++i)
         devices += device("Mux", 20 + i, i < 25 ? port(1, 21 + i) : "");
-    expect_reason(path_in(devices, "--instance 45"), "the way has 26 hops, 25 are allowed");
+    outcome result = path_in(devices, "--instance 45");
+    expect_reason(result, "the way has 26 hops, 25 are allowed");
+    EXPECT_THAT(result.err, HasSubstr("the first too many is \"Mux\" (xml 20, " + place(2) + ")"));
     EXPECT_EQ(path(quoted(file) + " --instance 44").exit_code, 0);
+}
+
+TEST_F(NoPath, over_pcie_has_the_same_reasons)
+{
+    std::string devices;
+    for (int i = 0; i < 11; ++i)
+        devices += pcie_device(20 + i, i < 10 ? pcie_port(21 + i) : "");
+    outcome result = path_in(devices, "--bus pcie --instance 30");
+    expect_reason(result, "the way has 11 hops, 10 are allowed");
+    EXPECT_THAT(result.err, HasSubstr("the first too many is \"Device\" (xml 20, " + place(2) + ")"));
+    EXPECT_EQ(path(quoted(file) + " --bus pcie --instance 29").exit_code, 0);
+
+    result = path_in(pcie_device(5, pcie_port(6)) + pcie_device(6, pcie_port(5)), "--bus pcie --instance 6");
+    expect_reason(result, "the ports form a loop at \"Device\" (xml 6, " + place(3) + ")");
+    expect_reason(path_in(pcie_device(10001, pcie_port(6)) + pcie_device(6, ""), "--bus pcie --instance 6"),
+                  "\"Device\" (xml 10001, " + place(2) + ")");
+    expect_reason(path_in(pcie_device(5, pcie_port(6)), "--bus pcie --instance 6"),
+                  "no entity has xml instance 6, to which a port of \"Device\" (xml 5, " + place(2) + ")");
+}
+
+TEST_F(NoPath, a_fault_on_the_control_cards_part_is_pointed_at_in_its_file)
+{
+    std::string slot = port(1, 3);
+    slot.replace(slot.find("NODE_TYPE_ENTITY"), strlen("NODE_TYPE_ENTITY"), "NODE_TYPE_LINECARD");
+    path_in(device("One", 5, port(1, 6) + slot) + device("Two", 6, port(1, 5)), "--instance 6");
+    for (const char *target : {"--instance 290", "'Slice 0 inlet temperature'"}) {
+        outcome result = path("line_card_48.xml " + std::string(target) + " --from " + quoted(file) +
+                              " --node-type linecard --position 3");
+        expect_reason(result, "no path by " + file.string() + ": the ports form a loop at \"One\" (xml 5, " +
+                                  place(2) + ")");
+    }
 }
 
 TEST_F(NoPath, an_entity_that_is_no_device_of_the_bus)
@@ -284,6 +344,16 @@ TEST_F(NoPath, an_entity_that_is_no_device_of_the_bus)
     outcome result = path_in("", "--instance 1");
     expect_reason(result, "\"Card\" (xml 1, " + place(1) + ") has no device on this bus");
     expect_reason(path_in(device("Mux", 5, ""), "--instance 5 --bus pcie"), "has no device on this bus");
+}
+
+// The library would answer with the way to the other one.
+TEST_F(NoPath, an_entity_whose_xml_instance_another_one_took)
+{
+    std::string first = device("First", 5, ""), second = device("Second", 5, "");
+    outcome result = path_in(first + second, "First");
+    expect_reason(result, "\"Second\" (xml 5, " + place(3) + ") has the xml instance 5 of \"First\" as well");
+    EXPECT_THAT(path(quoted(file) + " Second").out, HasSubstr("\"Second\""));
+    EXPECT_THAT(path(quoted(file) + " --instance 5").out, HasSubstr("\"Second\""));
 }
 
 TEST_F(NoPath, a_slot_that_the_control_card_does_not_know)

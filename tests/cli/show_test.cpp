@@ -177,6 +177,21 @@ std::string module(int instance, int xml_instance, const std::string &content = 
     return entity("module", "MODULE", "MSC", instance, xml_instance) + ">" + content + "</module>";
 }
 
+TEST_F(Show, absent_fields_are_marked_absent)
+{
+    fs::path file = write("bare.xml", module(0, 1));
+    std::string text = run("show " + quoted(file) + " --instance 1").out;
+    json fields = json_of(file, "--instance 1")["fields"]["base"];
+    for (const char *name : {"driver_id", "admin_state", "is_fru", "is_hidden", "obfl_data", "pd_hw_model",
+                             "hw_version", "power_consumer", "hw_signals", "i2c_node", "pcie_node"}) {
+        EXPECT_THAT(text, HasSubstr("  " + std::string(name) + ": absent\n"));
+        ASSERT_TRUE(fields.contains(name)) << name;
+        EXPECT_TRUE(fields[name].is_null()) << name;
+    }
+    EXPECT_THAT(text, HasSubstr("  snmp_entity: true, by default\n"));
+    EXPECT_THAT(text, HasSubstr("  spi_port_list: none\n"));
+}
+
 std::string chassis_with_back_plane(const std::string &modules)
 {
     return entity("chassis", "CHASSIS", "LCC", 0, 1) +

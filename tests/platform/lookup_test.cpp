@@ -322,6 +322,35 @@ TEST_F(Lookup, without_the_variable_the_installed_catalogue_is_asked)
     }
 }
 
+TEST_F(Lookup, the_sample_catalogue_names_a_document_for_each_sample_unit)
+{
+    const fs::path samples = fs::path(INV_SOURCE_DIR) / "inventories";
+    setenv("INV_CATALOG", (samples / "catalog.txt").c_str(), 1);
+    const struct {
+        uint32_t pi, pd;
+        const char *pid, *file;
+        uint32_t major = 1, minor = 0;
+    } units[] = {
+        {1, 1, "CH-8", "chassis.xml"},
+        {3, 17, "LC-48X10-A", "line_card_48.xml"},
+        {6, 18, "LC-12X100", "line_card_12.xml"},
+        {14, 19, "LC-SMALL", "line_card_small.xml"},
+        {4, 32, "RP-2", "route_processor.xml", 2},
+        {5, 48, "FC-6T", "fabric_card.xml"},
+        {7, 64, "FAN-6", "fan_tray.xml"},
+        {8, 80, "PSH-DC4", "power_shelf.xml"},
+        {9, 81, "PEM-4K", "pem.xml"},
+        {12, 96, "CXP-120", "cxp_optics.xml"},
+    };
+    testing::internal::CaptureStderr();
+    for (const auto &unit : units) {
+        SCOPED_TRACE(unit.file);
+        EXPECT_EQ(find_v2(unit.pi, unit.pd, unit.pid, unit.major, unit.minor), samples / unit.file);
+        EXPECT_TRUE(fs::is_regular_file(samples / unit.file));
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
 TEST_F(Lookup, without_memory_there_is_no_file_and_no_leak)
 {
     write("1 1 * * good.xml\n");

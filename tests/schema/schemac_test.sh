@@ -36,6 +36,12 @@ sed 's/ name="f"//' "$work/good.xml" >"$work/bad.xml"
 expect 0 "xmllint accepts the schema" xmllint --noout --schema "$xsd" "$work/good.xml"
 expect 3 "xmllint refuses a document by it" xmllint --noout --schema "$xsd" "$work/bad.xml"
 
+undocumented='//*[local-name()="element" or local-name()="attribute" or local-name()="complexType" or
+    local-name()="simpleType"][@name][not(*[local-name()="annotation"]/*[local-name()="documentation"]
+    [normalize-space()])]/@name'
+expect 0 "what an author may write is documented" test -z "$(xmllint --xpath "$undocumented" "$xsd" 2>/dev/null)"
+expect 0 "and the schema has such names" test -n "$(xmllint --xpath '//*[@name]/@name' "$xsd")"
+
 expect 0 "the committed sources are current" \
     "$schemac" "$xsd" --source-dir "$parser/src" --header-dir "$parser/include/inv_parser" --check
 

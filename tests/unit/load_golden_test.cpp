@@ -195,6 +195,13 @@ TEST(Golden, opens_that_fail)
         failing_lock::fail_next_unlock();
         by.open(3);
         written.section(title_of(by, "unlock fails, parsed already"));
+        failing_lock::fail_next_unlock();
+        open_file(by, scratch_folder() + "/none.xml", 3);
+        written.section(title_of(by, "unlock fails after a failed load"));
+        failing_lock::fail_next_unlock();
+        fake_platform::set_only_file_name(nullptr);
+        by.open(3);
+        written.section(title_of(by, "unlock fails, no file"));
     }
     for (const generation &by : generations()) {
         open_without_memory(written, by, module_document(), 1, "no memory for the first handle");
@@ -294,6 +301,15 @@ sch_eid_type top_eid()
     return eid;
 }
 
+// An entity below it that has no children.
+sch_eid_type leaf_eid()
+{
+    sch_eid_type eid = top_eid();
+    eid.depth = 2;
+    eid.levels[1] = {8, 25, 0};
+    return eid;
+}
+
 answer ask_data(inv_xml_handle *handle, uint32_t)
 {
     sch_base_entity_type *entity = nullptr;
@@ -332,9 +348,7 @@ TEST(Golden, queries_that_succeed)
                             true);
         }
     }
-    sch_eid_type leaf = top_eid();
-    leaf.depth = 2;
-    leaf.levels[1] = {8, 25, 0};
+    sch_eid_type leaf = leaf_eid();
     sch_eid_type *eids = nullptr;
     uint32_t count = 0;
     EXPECT_EQ(inv_parser_get_eid_tree(handle, 6, &leaf, &eids, &count), 0u);
@@ -388,6 +402,11 @@ TEST(Golden, queries_that_fail)
     uint32_t count = 0;
     EXPECT_EQ(inv_parser_get_eid_tree(handle, 6, &nobody, &eids, &count), 1u);
     written.section("EID tree, not found", true);
+    sch_eid_type leaf = leaf_eid();
+    counting_memory::fail_at(1, true);
+    EXPECT_EQ(inv_parser_get_eid_tree(handle, 6, &leaf, &eids, &count), 1u);
+    counting_memory::reset();
+    written.section("EID tree of a leaf, no memory", true);
 }
 
 }  // namespace

@@ -207,6 +207,10 @@ typename Calls::sequence *build_path(const document &opened, const path_options 
 {
     typename Calls::sequence *sequence = nullptr;
     uint16_t instance = target->record->xml_instance;
+    if (std::string hidden_by = invctl::why_hidden(opened, *target->record); !hidden_by.empty()) {
+        complain("no path: " + hidden_by);
+        return nullptr;
+    }
     Calls::by_xml_inst(opened.handle, instance, &sequence);
     if (sequence != nullptr && is_no_device(opened, options, target)) {
         Calls::release(sequence);

@@ -81,20 +81,33 @@ std::string why_no_path(const document &opened, bus over, uint16_t xml_instance)
     if (node == nullptr)
         return opened.path + " has no " + xml_text(xml_instance);
     std::set<const sch_xml_inst_node_type *> seen;
+    const sch_base_entity_type *first_too_many = nullptr;
     for (; node != nullptr; node = find_index_node(opened, over, node->parent_xml_instance)) {
         std::string fault = fault_of_hop(opened, *node);
         if (!fault.empty())
             return fault;
         if (!seen.insert(node).second)
             return "the ports form a loop at " + told(opened, *node->entity);
+        if (seen.size() == max_hops(over) + 1u)
+            first_too_many = node->entity;
         if (node->parent_entity == nullptr)
             break;
     }
-    if (seen.size() > max_hops(over))
+    if (first_too_many != nullptr)
         return "the way has " + std::to_string(seen.size()) + " hops, " + std::to_string(max_hops(over)) +
-               " are allowed";
+               " are allowed: counted from the device, the first too many is " +
+               told(opened, *first_too_many);
     const sch_base_entity_type *target = find_entity(opened, xml_instance);
     return told(opened, *target) + " has no device on this bus, and no port leads to it";
+}
+
+std::string why_hidden(const document &opened, const sch_base_entity_type &target)
+{
+    const sch_base_entity_type *indexed = find_entity(opened, target.xml_instance);
+    if (indexed == nullptr || indexed == &target)
+        return "";
+    return told(opened, *indexed) + " has the " + xml_text(target.xml_instance) + " of \"" +
+           printable(target.name) + "\" as well";
 }
 
 std::vector<reached_entity> find_behind(const document &opened, bus over, uint16_t xml_instance)

@@ -21,6 +21,10 @@ const sch_base_entity_type *find_entity(const document &opened, uint32_t xml_ins
 // none.
 std::string why_no_path(const document &opened, bus over, uint16_t xml_instance);
 
+// Of entities with one xml instance only the last is in the indexes: who hides `target`, with its place.
+// Empty when nobody does.
+std::string why_hidden(const document &opened, const sch_base_entity_type &target);
+
 // An entity that is reached through another one.
 struct reached_entity {
     const eid_chain_node *node;
