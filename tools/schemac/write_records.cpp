@@ -118,7 +118,7 @@ std::vector<std::string> initialise_embedded(const schema &s, const std::vector<
 std::vector<std::string> clear_and_initialise(const schema &s, const std::vector<item> &attributes,
                                               const std::vector<item> &elements)
 {
-    std::vector<std::string> lines = {"*record = {};"};
+    std::vector<std::string> lines = {"clear_octets(*record);"};
     for (const item &i : attributes) {
         if (!i.initial.empty())
             lines.push_back("record->" + i.name + " = " + initial_value(s, i) + ";");
@@ -141,7 +141,7 @@ std::string initialiser(const schema &s, const complex_type &type)
         return function(head, clear_and_initialise(s, type.attributes, type.elements));
     std::vector<std::string> lines = {"Init_" + type.base + "(&record->base);"};
     if (!presence_bits(type).empty())
-        lines.push_back("record->has = {};");
+        lines.push_back("clear_octets(record->has);");
     if (has_extension(type))
         lines.push_back("Init_" + type.name + "_2(&record->ext);");
     for (const item &i : type.attributes)

@@ -1019,135 +1019,135 @@ constexpr enumeration PEMType_2_psmState_tokens = {.rows = PEMType_2_psmState_ro
 
 void Init_BaseLEDType_2(BaseLEDType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseContainerType_2(BaseContainerType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PemBayType_2(PemBayType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseCEPortType_2(BaseCEPortType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseFPGAType_2(BaseFPGAType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseIdEEPROMType_2(BaseIdEEPROMType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseStorageType_2(BaseStorageType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseSpiFlash_2(BaseSpiFlash_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseSensorType_2(BaseSensorType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BasePCIeSwitchType_2(BasePCIeSwitchType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
     Init_BaseSensorType(&record->sensor);
 }
 
 void Init_BaseVoltageMarginType_2(BaseVoltageMarginType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseProcessorType_2(BaseProcessorType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseMemoryType_2(BaseMemoryType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseCESwitchType_2(BaseCESwitchType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseKestoType_2(BaseKestoType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BasePortType_2(BasePortType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseModuleType_2(BaseModuleType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_OpticsType_2(OpticsType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PEMType_2(PEMType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_FanTrayType_2(FanTrayType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BackPlaneType_2(BackPlaneType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_FanType_2(FanType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
     Init_BaseSensorType(&record->sensor);
 }
 
 void Init_BaseModuleTestType_2(BaseModuleTestType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseCraftInterfaceType_2(BaseCraftInterfaceType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_ChassisEntityType_2(ChassisEntityType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
     Init_BackPlaneType(&record->backPlane);
 }
 
 void Init_PowerShelfType_2(PowerShelfType_2 *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 }  // namespace
@@ -1614,127 +1614,127 @@ const char *PEMType_2_psmState_ToString(uint32_t code)
 
 void Init_NodeInfoType(NodeInfoType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_I2cNodeType(I2cNodeType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_I2cSequenceType(I2cSequenceType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_I2cDestType(I2cDestType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_I2cPortType(I2cPortType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PCIeNodeType(PCIeNodeType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PciSequenceType(PciSequenceType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PMBusPortType(PMBusPortType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_SpiDestType(SpiDestType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_SpiPortType(SpiPortType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PCIeDestType(PCIeDestType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BasePCIePortType(BasePCIePortType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_HardwareRegistersType(HardwareRegistersType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_HwSignalsType(HwSignalsType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PowerConsumerType(PowerConsumerType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PowerProducerType(PowerProducerType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PowerZoneType(PowerZoneType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_PowerInfoType(PowerInfoType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseLedInfoType(BaseLedInfoType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseContainerListType(BaseContainerListType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseThresholdType(BaseThresholdType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseStorageMemoryMap(BaseStorageMemoryMap *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseControlInfoType(BaseControlInfoType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_SwitchPortMapType(SwitchPortMapType *record)
 {
-    *record = {};
+    clear_octets(*record);
 }
 
 void Init_BaseEntityType(BaseEntityType *record)
 {
-    *record = {};
+    clear_octets(*record);
     record->entityOwner = 1;
     record->snmpEntity = 1;
     record->isPrefixNeeded = 1;
@@ -1743,14 +1743,14 @@ void Init_BaseEntityType(BaseEntityType *record)
 void Init_BaseLEDType(BaseLEDType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseLEDType_2(&record->ext);
 }
 
 void Init_BaseContainerType(BaseContainerType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseContainerType_2(&record->ext);
     record->position = {};
     record->hardwarePosition = {};
@@ -1759,14 +1759,14 @@ void Init_BaseContainerType(BaseContainerType *record)
 void Init_PemBayType(PemBayType *record)
 {
     Init_BaseContainerType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_PemBayType_2(&record->ext);
 }
 
 void Init_BaseCEPortType(BaseCEPortType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseCEPortType_2(&record->ext);
     record->portUsage = {};
 }
@@ -1780,14 +1780,14 @@ void Init_BaseCESwitchType_2_port(BaseCESwitchType_2_port *record)
 void Init_BaseFPGAType(BaseFPGAType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseFPGAType_2(&record->ext);
 }
 
 void Init_BaseIdEEPROMType(BaseIdEEPROMType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseIdEEPROMType_2(&record->ext);
     record->eepromType = {};
 }
@@ -1795,21 +1795,21 @@ void Init_BaseIdEEPROMType(BaseIdEEPROMType *record)
 void Init_BaseStorageType(BaseStorageType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseStorageType_2(&record->ext);
 }
 
 void Init_BaseSpiFlash(BaseSpiFlash *record)
 {
     Init_BaseStorageType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseSpiFlash_2(&record->ext);
 }
 
 void Init_BaseSensorType(BaseSensorType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseSensorType_2(&record->ext);
     record->isMarginable = {};
     record->isRov = {};
@@ -1824,49 +1824,49 @@ void Init_I2cChipType(I2cChipType *record)
 void Init_BasePCIeSwitchType(BasePCIeSwitchType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BasePCIeSwitchType_2(&record->ext);
 }
 
 void Init_BaseVoltageMarginType(BaseVoltageMarginType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseVoltageMarginType_2(&record->ext);
 }
 
 void Init_BaseProcessorType(BaseProcessorType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseProcessorType_2(&record->ext);
 }
 
 void Init_BaseMemoryType(BaseMemoryType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseMemoryType_2(&record->ext);
 }
 
 void Init_BaseCESwitchType(BaseCESwitchType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseCESwitchType_2(&record->ext);
 }
 
 void Init_BaseKestoType(BaseKestoType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseKestoType_2(&record->ext);
 }
 
 void Init_BasePortType(BasePortType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BasePortType_2(&record->ext);
     record->portUsage = {};
 }
@@ -1880,69 +1880,69 @@ void Init_BaseConsoleType(BaseConsoleType *record)
 void Init_BaseModuleType(BaseModuleType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseModuleType_2(&record->ext);
 }
 
 void Init_OpticsType(OpticsType *record)
 {
     Init_BaseModuleType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_OpticsType_2(&record->ext);
 }
 
 void Init_PEMType(PEMType *record)
 {
     Init_BaseModuleType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_PEMType_2(&record->ext);
 }
 
 void Init_FanTrayType(FanTrayType *record)
 {
     Init_BaseModuleType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_FanTrayType_2(&record->ext);
 }
 
 void Init_BackPlaneType(BackPlaneType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BackPlaneType_2(&record->ext);
 }
 
 void Init_FanType(FanType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_FanType_2(&record->ext);
 }
 
 void Init_BaseModuleTestType(BaseModuleTestType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseModuleTestType_2(&record->ext);
 }
 
 void Init_BaseCraftInterfaceType(BaseCraftInterfaceType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_BaseCraftInterfaceType_2(&record->ext);
 }
 
 void Init_ChassisEntityType(ChassisEntityType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_ChassisEntityType_2(&record->ext);
 }
 
 void Init_PowerShelfType(PowerShelfType *record)
 {
     Init_BaseEntityType(&record->base);
-    record->has = {};
+    clear_octets(record->has);
     Init_PowerShelfType_2(&record->ext);
 }
