@@ -19,7 +19,7 @@ cmake --preset $(1) --log-level=WARNING >/dev/null
 cmake --build --preset $(1) -j $(JOBS) $(2)
 endef
 
-.PHONY: help run test check bench regenerate install format clean
+.PHONY: help run test check bench bench-short regenerate install format clean
 .PHONY: check-clang check-asan check-tsan check-fuzz check-format
 
 help: ## this list
@@ -63,10 +63,15 @@ check-format: ## formatting of all sources
 	$(call packages,check)
 	tools/check_format.sh
 
-bench: ## benchmarks: open and close of documents with up to 100,000 entities, access sequences
-	$(call packages,build test)
-	$(call build,dev,--target inv_bench)
-	$(BUILD)/bench/inv_bench
+bench: ## speed and memory against other libraries; writes bench/RESULTS.md, fails when a limit is missed
+	$(call packages,build bench)
+	$(call build,bench,--target inv_bench)
+	build/bench/bench/inv_bench --results bench/RESULTS.md
+
+bench-short: ## the same in a minute; fails when a ratio is over twice its target
+	$(call packages,build bench)
+	$(call build,bench,--target inv_bench)
+	build/bench/bench/inv_bench --short
 
 regenerate: ## rewrite the generated sources and documents
 	$(call packages,build test)

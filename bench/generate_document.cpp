@@ -19,6 +19,7 @@ constexpr unsigned block_count = 50;
 constexpr unsigned deepest_module = 4;
 constexpr unsigned control_channels = 8;
 constexpr std::size_t flush_size = 1 << 20;
+constexpr unsigned lean_devices = 8;  // in a lean document every eighth device has an I2C node
 
 /* In the order in which a module's content has them. */
 enum component_kind : unsigned {
@@ -71,6 +72,9 @@ struct generator {
     std::uint64_t random = 0;
     std::FILE *file = nullptr;
     bool failed = false;
+    bool lean = false;
+    unsigned planned = 0;
+    unsigned planned_sensors = 0;
 };
 
 unsigned draw(generator &g, unsigned below)
@@ -79,16 +83,33 @@ unsigned draw(generator &g, unsigned below)
     return static_cast<unsigned>((g.random >> 33) % below);
 }
 
+constexpr bool is_sensor(unsigned kind)
+{
+    return kind == sensor || kind == volt_margin || kind == led;
+}
+
 component_kind draw_kind(generator &g)
 {
+    // Sensors fill a lean document up to its half, whatever else is drawn.
+    if (g.lean && 2 * g.planned_sensors < g.planned)
+        return sensor;
+    std::array<unsigned, kind_count> weights;
     unsigned total = 0;
-    for (const component_row &row : components)
-        total += row.weight;
+    for (unsigned kind = 0; kind < kind_count; ++kind) {
+        weights[kind] = g.lean && is_sensor(kind) ? 0 : components[kind].weight;
+        total += weights[kind];
+    }
     unsigned ticket = draw(g, total);
     unsigned kind = 0;
-    while (ticket >= components[kind].weight)
-        ticket -= components[kind++].weight;
+    while (ticket >= weights[kind])
+        ticket -= weights[kind++];
     return static_cast<component_kind>(kind);
+}
+
+void note_planned(generator &g, unsigned count, bool has_sensor)
+{
+    g.planned += count;
+    g.planned_sensors += has_sensor ? 1 : 0;
 }
 
 /* A module of exactly `size` entities; a parent's instance is below those of what it contains. */
@@ -102,6 +123,7 @@ module_plan plan_module(generator &g, unsigned size, unsigned level, unsigned &n
         plan.parts[mux].push_back(next_instance++);
         --left;
     }
+    note_planned(g, size - left, false);
     while (left > 0) {
         if (level < deepest_module && left >= 8 && draw(g, 5) == 0) {
             const unsigned share = std::min(left, 6 + draw(g, level == 1 ? 40 : 12));
@@ -114,6 +136,7 @@ module_plan plan_module(generator &g, unsigned size, unsigned level, unsigned &n
         if (taken > left)
             continue;
         plan.parts[kind].push_back(next_instance);
+        note_planned(g, taken, kind == port || is_sensor(kind));
         next_instance += taken;
         left -= taken;
     }
@@ -128,7 +151,9 @@ void base_attributes(generator &g, const char *type, const char *subtype, unsign
         attribute(g.out, attribute_name, std::string_view{std::string(prefix) + value});
     };
     attribute(g.out, "name", name);
-    attribute(g.out, "description", std::string_view{name + " of the generated card"});
+    attribute(g.out, "description",
+              name + " of the generated card" +
+                  (g.lean ? ", as its front panel and its manual call it" : ""));
     attribute(g.out, "adminState", "ORVL_ADMIN_STATE_ENABLED");
     attribute(g.out, "operState", draw(g, 8) == 0 ? "ORVL_OPER_STATE_DOWN" : "ORVL_OPER_STATE_UP");
     attribute(g.out, "powerAdminState", "ORVL_POWER_ADMIN_STATE_ON");
@@ -146,7 +171,11 @@ void base_attributes(generator &g, const char *type, const char *subtype, unsign
 
 void versions(generator &g)
 {
-    element(g.out, "pdNotes", "Made by the document generator.");
+    element(g.out, "pdNotes",
+            g.lean
+                ? "Made by the document generator, with what every entity has and the most of what its own "
+                  "kind has in common; boards, muxes and sensors as they are on a real card."
+                : "Made by the document generator.");
     element(g.out, "hardwareVersion", "1.0");
     element(g.out, "firmwareVersion", std::string_view{"2." + std::to_string(draw(g, 100))});
 }
@@ -188,17 +217,28 @@ void i2c_port(generator &g, const char *port_type, unsigned channel,
     close_element(g.out, "i2cPort");
 }
 
+bool has_i2c_node(const generator &g, unsigned xml_instance)
+{
+    return !g.lean || xml_instance % lean_devices == 0;
+}
+
+std::vector<unsigned> on_i2c(const generator &g, std::vector<unsigned> devices)
+{
+    std::erase_if(devices, [&g](unsigned device) { return !has_i2c_node(g, device); });
+    return devices;
+}
+
 /* Each kind of device has a channel of its own, the muxes of the child modules share channel 7. */
 void mux_ports(generator &g, const module_plan &plan)
 {
     unsigned channel = 0;
     for (unsigned kind = 0; kind < kind_count; ++kind)
         if (components[kind].behind_mux)
-            i2c_port(g, "MUX", channel++, plan.parts[kind]);
+            i2c_port(g, "MUX", channel++, on_i2c(g, plan.parts[kind]));
     std::vector<unsigned> cages;
     for (unsigned port_instance : plan.parts[port])
         cages.push_back(port_instance + 2);
-    i2c_port(g, "MUX", channel, cages);
+    i2c_port(g, "MUX", channel, on_i2c(g, std::move(cages)));
     std::vector<unsigned> muxes;
     for (const module_plan &child : plan.children)
         muxes.insert(muxes.end(), child.parts[mux].begin(), child.parts[mux].end());
@@ -222,9 +262,8 @@ void led_content(generator &g)
     led_info(g, "GREEN", "OFF");
 }
 
-void sensor_content(generator &g)
+void threshold(generator &g, int nominal)
 {
-    const int nominal = 30 + static_cast<int>(draw(g, 40));
     open_element(g.out, "threshold");
     attribute(g.out, "criticalLow", -15);
     attribute(g.out, "majorLow", -10);
@@ -233,12 +272,21 @@ void sensor_content(generator &g)
     attribute(g.out, "majorHigh", nominal + 40);
     attribute(g.out, "criticalHigh", nominal + 50);
     close_element(g.out, "threshold");
+}
+
+void sensor_content(generator &g)
+{
+    const int nominal = 30 + static_cast<int>(draw(g, 40));
+    if (!g.lean)
+        threshold(g, nominal);
     element(g.out, "value", nominal);
     element(g.out, "lastValue", nominal - 1);
-    hex_element(g.out, "hwPollRegisterOffset", 4 * draw(g, 256), 8);
+    if (!g.lean)
+        hex_element(g.out, "hwPollRegisterOffset", 4 * draw(g, 256), 8);
     element(g.out, "unit", "ORVL_SENSOR_UNIT_CELSIUS");
     element(g.out, "scale", "ORVL_SENSOR_SCALE_UNITS");
-    element(g.out, "precision", 0);
+    if (!g.lean)
+        element(g.out, "precision", 0);
 }
 
 void fpga_content(generator &g)
@@ -286,11 +334,6 @@ void volt_margin_content(generator &g)
     element(g.out, "operation", "ORVL_VOLT_MARGIN_OFF");
 }
 
-void kesto_content(generator &g)
-{
-    element(g.out, "isValidated", "ORVL_KESTO_PASSED");
-}
-
 void port_content(generator &g);
 
 /* Own content by kind; none for what only has the common part. */
@@ -301,7 +344,7 @@ constexpr std::array<void (*)(generator &), kind_count> own_content = {{
     volt_margin_content,
     processor_content,
     memory_content,
-    kesto_content,
+    [](generator &g) { element(g.out, "isValidated", "ORVL_KESTO_PASSED"); },
     nullptr,
     eeprom_content,
     port_content,
@@ -328,7 +371,7 @@ void write_part(generator &g, component_kind kind, const char *tag, unsigned ins
                         std::to_string(instance));
     kind_attributes(g, kind, instance);
     versions(g);
-    if (row.behind_mux || kind == mux)
+    if (kind == mux || (row.behind_mux && has_i2c_node(g, xml_instance)))
         i2c_node(g, kind == mux ? "I2CMUX" : "I2CSLAVEADDRESS", (0x40 + instance) & 0x7F);
     if (muxed != nullptr)
         mux_ports(g, *muxed);
@@ -430,6 +473,7 @@ generator start(const document_options &options)
     generator g;
     g.random = options.seed;
     g.out.indented = options.indented;
+    g.lean = options.lean;
     return g;
 }
 

@@ -28,6 +28,10 @@ bool parse(int argc, char **argv, arguments &parsed)
             parsed.options.indented = false;
             continue;
         }
+        if (std::strcmp(argv[i], "--lean") == 0) {
+            parsed.options.lean = true;
+            continue;
+        }
         if (value == nullptr)
             return false;
         if (std::strcmp(argv[i], "--entities") == 0)
@@ -50,7 +54,7 @@ int main(int argc, char **argv)
 {
     arguments parsed;
     if (!parse(argc, argv, parsed)) {
-        std::fprintf(stderr, "usage: inv_generate --entities N [--flat] [--seed S] -o FILE\n");
+        std::fprintf(stderr, "usage: inv_generate --entities N [--flat] [--lean] [--seed S] -o FILE\n");
         return 2;
     }
     std::FILE *out = std::fopen(parsed.output, "wb");
