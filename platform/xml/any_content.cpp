@@ -51,23 +51,22 @@ bool write_attribute(text_buffer &out, std::string_view prefix, std::string_view
 
 bool write_start_tag(text_buffer &out, const tag_stack &tags, const element &tag)
 {
-    bool written = append_text(out, "<") && append_text(out, view(tags.texts, tag.name));
+    bool written = append_text(out, "<") && append_text(out, tag.name);
     for (size_t i = tag.binding_begin; written && i < tag.binding_end; ++i) {
         const namespace_binding &binding = tags.scope.bindings.items[i];
-        std::string_view prefix = view(tags.texts, binding.prefix);
-        written =
-            write_attribute(out, prefix.empty() ? "xmlns" : "xmlns:", prefix, view(tags.texts, binding.uri));
+        std::string_view prefix = binding.prefix;
+        written = write_attribute(out, prefix.empty() ? "xmlns" : "xmlns:", prefix, binding.uri);
     }
     for (size_t i = tag.attribute_begin; written && i < tag.attribute_end; ++i) {
         const attribute &item = tags.attributes.items[i];
-        written = write_attribute(out, {}, view(tags.texts, item.name), view(tags.texts, item.value));
+        written = write_attribute(out, {}, name_of(item), value_of(item));
     }
     return written && append_text(out, ">");
 }
 
-bool write_end_tag(text_buffer &out, const tag_stack &tags, const element &tag)
+bool write_end_tag(text_buffer &out, const element &tag)
 {
-    return append_text(out, "</") && append_text(out, view(tags.texts, tag.name)) && append_text(out, ">");
+    return append_text(out, "</") && append_text(out, tag.name) && append_text(out, ">");
 }
 
 // Up to the end tag of the current element, which stays ahead.
@@ -79,12 +78,12 @@ int32_t write_content(xb_context_state &state, text_buffer &out)
         int32_t status = read_event(state);
         if (status != XB_OK)
             return status;
-        if (!write_escaped(out, std::string_view(r.text.items, r.text.count), false))
+        if (!write_escaped(out, r.text, false))
             return XB_E_NO_MEMORY;
         bool is_start = r.ahead_kind == event_kind::start_tag;
         if (!is_start && r.tags.depth == depth)
             return XB_OK;
-        if (!is_start && !write_end_tag(out, r.tags, *current_element(r.tags)))
+        if (!is_start && !write_end_tag(out, *current_element(r.tags)))
             return XB_E_NO_MEMORY;
         consume_tag(r);
         if (is_start && !write_start_tag(out, r.tags, *current_element(r.tags)))

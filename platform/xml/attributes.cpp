@@ -23,11 +23,10 @@ size_t attribute_count(const element &tag)
 
 bool append_declaration(xb_context *ctx, xb_data_list *list, const namespace_binding &binding)
 {
-    const growing_array<char> &texts = ctx->state->reader.tags.texts;
     heap &memory = ctx->state->memory;
     void *block = heap_allocate(memory, sizeof(xb_xmlns));
-    char *prefix = heap_copy_text(memory, view(texts, binding.prefix));
-    char *uri = heap_copy_text(memory, view(texts, binding.uri));
+    char *prefix = heap_copy_text(memory, binding.prefix);
+    char *uri = heap_copy_text(memory, binding.uri);
     if (block == nullptr || prefix == nullptr || uri == nullptr)
         return false;
     return rtxDListAppend(ctx, list, new (block) xb_xmlns{prefix, uri}) != nullptr;
@@ -40,7 +39,7 @@ size_t find_xsi_type(const tag_stack &tags, const element &tag)
         return no_attribute;
     for (size_t i = tag.attribute_begin; i < tag.attribute_end; ++i) {
         const attribute &item = tags.attributes.items[i];
-        if (item.kind == name_kind::xsi && view(tags.texts, item.local) == "type")
+        if (item.kind == name_kind::xsi && split_qualified_name(name_of(item)).local == "type")
             return i - tag.attribute_begin;
     }
     return no_attribute;
@@ -52,7 +51,7 @@ int32_t find_type(const tag_stack &tags, std::string_view name, const xb_type_na
 {
     split_name parts = split_qualified_name(name);
     std::string_view uri;
-    bool bound = scope_find(tags.scope, tags.texts, parts.prefix, uri);
+    bool bound = scope_find(tags.scope, parts.prefix, uri);
     if (!bound && !parts.prefix.empty())
         return XB_E_UNDECLARED_PREFIX;
     for (int32_t i = 0; !bound && i < row_count; ++i) {
@@ -151,7 +150,7 @@ int32_t rtXmlpGetAttributeID(xb_context *ctx, const xb_attribute_row *table, int
     case name_kind::plain:
         break;
     }
-    std::string_view name = view(r.tags.texts, item->name);
+    std::string_view name = name_of(*item);
     for (int32_t i = 0; i < row_count; ++i) {
         if (std::string_view(table[i].name, table[i].name_length) == name)
             return i;
@@ -163,7 +162,8 @@ const char *rtXmlpGetAttributeName(xb_context *ctx, size_t *length)
 {
     const reader &r = ctx->state->reader;
     const attribute *item = selected_attribute(r);
-    std::string_view name = item == nullptr ? std::string_view("") : view(r.tags.texts, item->local);
+    std::string_view name =
+        item == nullptr ? std::string_view("") : split_qualified_name(name_of(*item)).local;
     if (length != nullptr)
         *length = name.size();
     return name.data();
@@ -172,17 +172,18 @@ const char *rtXmlpGetAttributeName(xb_context *ctx, size_t *length)
 int32_t rtXmlpGetXSITypeIndex(xb_context *ctx, const xb_type_name_row *table, int32_t row_count)
 {
     reader &r = ctx->state->reader;
-    const element *tag = current_element(r.tags);
+    element *tag = current_element(r.tags);
     if (tag == nullptr)
         return XB_E_BAD_STATE;
     size_t index = find_xsi_type(r.tags, *tag);
     if (index == no_attribute)
         return XB_E_NO_XSI_TYPE;
     const attribute &item = r.tags.attributes.items[tag->attribute_begin + index];
-    std::string_view name = collapsed(view(r.tags.texts, item.value));
+    std::string_view name = collapsed(value_of(item));
     int32_t result = find_type(r.tags, name, table, row_count);
     if (result < 0) {
-        r.place = place_of_attribute(r.tags, *tag, item.tag_index);
+        complete(r.source, tag->place);
+        r.place = place_of_attribute(r.tags, *tag, item);
         add_parameter(*ctx->state, name);
     }
     return result;

@@ -14,6 +14,7 @@ struct xb_context_state {
     inv::xml::input in;
     inv::xml::reader reader;
     size_t chunk_size;  // octets read at once; tests make it small
+    bool slow_road;     // every document by way of expat; tests compare the two
 };
 
 #endif

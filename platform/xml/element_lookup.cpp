@@ -13,7 +13,7 @@ bool is_at_depth(int32_t depth, uint32_t level)
 
 std::string_view name_ahead(const reader &r)
 {
-    return view(r.tags.texts, r.tags.elements[r.tags.depth].name);
+    return r.tags.elements[r.tags.depth].name;
 }
 
 // The name of the tag ahead; an end tag's begins with "/".
@@ -25,7 +25,7 @@ void add_name_ahead(xb_context_state &state)
         return;
     }
     const element *current = current_element(r.tags);
-    std::string_view name = current == nullptr ? std::string_view() : view(r.tags.texts, current->name);
+    std::string_view name = current == nullptr ? std::string_view() : current->name;
     char *text = static_cast<char *>(heap_allocate(state.memory, name.size() + 1));
     if (text == nullptr || current == nullptr) {
         add_parameter(state, {});
@@ -43,7 +43,7 @@ int32_t find_row(const reader &r, const xb_element_row *rows, int32_t row_count,
     const element &tag = r.tags.elements[r.tags.depth];
     if (tag.kind != name_kind::plain)
         return -1;
-    std::string_view local = view(r.tags.texts, tag.local);
+    std::string_view local = tag.local;
     for (int32_t i = 0; i < row_count; ++i) {
         const xb_element_row &row = rows[i];
         bool allowed = row.content_index >= first && row.content_index < first + count;
@@ -91,8 +91,7 @@ int32_t rtXmlpMatchStartTag(xb_context *ctx, const char *local_name, int32_t dep
     int32_t status = read_tag(state);
     if (status != XB_OK)
         return status;
-    if (r.ahead_kind == event_kind::start_tag &&
-        view(r.tags.texts, r.tags.elements[r.tags.depth].local) == local_name) {
+    if (r.ahead_kind == event_kind::start_tag && r.tags.elements[r.tags.depth].local == local_name) {
         consume_tag(r);
         return XB_OK;
     }

@@ -1,13 +1,15 @@
 // Events by way of expat.
 //
 // Expat pushes; the reader pulls. What expat's handlers report is queued in memory that is used
-// again once the queue has drained. A full queue suspends the parser, so neither a long run of
-// small elements in one chunk nor an entity that expands far beyond its size makes it grow; only a
-// single tag or run of text may. Names are taken as they stand: namespaces are the reader's.
+// again once the queue has drained. A full queue suspends the parser, so that a long run of small
+// elements in one chunk does not make it grow; only a single tag or run of text may, and an entity
+// up to a limit. Names are taken as they stand: namespaces are the reader's.
 #include "characters.h"
 #include "event_source.h"
 #include "growing_array.h"
+#include "inv_platform/name_hash.h"
 #include "inv_platform/xml_runtime.h"
+#include "markup_walk.h"
 
 #include <algorithm>
 #include <cstring>
@@ -23,6 +25,8 @@ namespace
 
 constexpr size_t queue_octets = 64 * 1024;
 constexpr size_t queue_events = 1024;
+// What one reference may expand to in the queue, which it has to fit into as a whole.
+constexpr size_t most_of_one_reference = size_t{1} << 20;
 constexpr size_t greatest_chunk = size_t{64} << 20;
 
 // Values that the document type gives may come to this many octets, or to this many times what has
@@ -39,10 +43,13 @@ constexpr std::string_view entity_unknown = "undefined entity";
 struct queued_attribute {
     text_span name;
     text_span value;
+    uint32_t markup_at;
 };
 
+enum class queued_kind : uint8_t { start_tag, end_tag, text };
+
 struct queued_event {
-    event_kind kind;
+    queued_kind kind;
     bool significant;
     position place;
     position significant_place;
@@ -55,6 +62,7 @@ struct queued_event {
 struct expat_source {
     XML_Parser parser;
     input *in;
+    event_reader reader;
     size_t chunk_size;
     bool first_chunk_seen;
     bool last_chunk_fed;
@@ -72,7 +80,11 @@ struct expat_source {
     size_t next;
     growing_array<queued_attribute> attributes;
     growing_array<char> octets;
-    growing_array<tag_attribute> delivered;
+    // The text in front of the next tag.
+    growing_array<char> text;
+    bool has_text;
+    bool significant;
+    position text_place;
 };
 
 position here(const expat_source &source)
@@ -105,12 +117,28 @@ void abort_with(expat_source &source, int32_t status, std::string_view reason)
     XML_StopParser(source.parser, XML_FALSE);
 }
 
+// Where an event comes out of an entity, the place in the document is that of the reference.
+bool is_inside_entity(const expat_source &source)
+{
+    int offset = 0;
+    int size = 0;
+    const char *buffer = XML_GetInputContext(source.parser, &offset, &size);
+    if (buffer == nullptr || offset < 0 || size - offset < 2)
+        return false;
+    return buffer[offset] == '&' || (buffer[offset] == '\0' && buffer[offset + 1] == '&');
+}
+
+// Never inside an entity: releases of expat that are in use forget the rest of one then.
 void pause_when_full(expat_source &source)
 {
     if (source.paused || (source.octets.count < queue_octets && source.events.count < queue_events))
         return;
-    source.paused = true;
-    XML_StopParser(source.parser, XML_TRUE);
+    if (!is_inside_entity(source)) {
+        source.paused = true;
+        XML_StopParser(source.parser, XML_TRUE);
+    } else if (source.octets.count + source.events.count * sizeof(queued_event) > most_of_one_reference) {
+        abort_with(source, XB_E_MALFORMED, "entities expand too far");
+    }
 }
 
 // The document's octets from where the present event starts, empty when they cannot be had. Inside
@@ -170,10 +198,15 @@ bool defaults_are_bounded(expat_source &source, std::string_view name, std::stri
 
 bool queue_attributes(expat_source &source, const XML_Char **names_and_values, queued_event &queued)
 {
+    std::string_view markup = raw_tag(source);
+    size_t markup_at = first_attribute_in(markup);
     const XML_Char **defaults = names_and_values + XML_GetSpecifiedAttributeCount(source.parser);
     queued.first_attribute = source.attributes.count;
     for (const XML_Char **item = names_and_values; *item != nullptr; item += 2) {
         queued_attribute attribute = {};
+        // One that only the document type gives stands nowhere in the tag.
+        attribute.markup_at =
+            item < defaults && markup_at < markup.size() ? static_cast<uint32_t>(markup_at) : not_in_markup;
         if (item >= defaults && !defaults_are_bounded(source, item[0], item[1])) {
             abort_with(source, XB_E_MALFORMED, "default values expand too far");
             return false;
@@ -181,12 +214,13 @@ bool queue_attributes(expat_source &source, const XML_Char **names_and_values, q
         if (!keep_text(source.octets, item[0], attribute.name) ||
             !keep_text(source.octets, item[1], attribute.value) || !append(source.attributes, attribute))
             return false;
+        markup_at = next_attribute_in(markup, markup_at);
     }
     queued.attribute_count = source.attributes.count - queued.first_attribute;
     return true;
 }
 
-void queue_tag(expat_source &source, event_kind kind, const XML_Char *name, const XML_Char **attributes)
+void queue_tag(expat_source &source, queued_kind kind, const XML_Char *name, const XML_Char **attributes)
 {
     if (source.aborted)
         return;
@@ -194,7 +228,8 @@ void queue_tag(expat_source &source, event_kind kind, const XML_Char *name, cons
     queued.kind = kind;
     queued.place = here(source);
     // The end of an empty-element tag has no octets of its own; it stands where its tag does.
-    if (kind == event_kind::end_tag && source.events.count > 0 && XML_GetCurrentByteCount(source.parser) == 0)
+    if (kind == queued_kind::end_tag && source.events.count > 0 &&
+        XML_GetCurrentByteCount(source.parser) == 0)
         queued.place = source.events.items[source.events.count - 1].place;
     bool kept = keep_text(source.octets, name, queued.text);
     if (kept && attributes != nullptr && attributes[0] != nullptr) {
@@ -212,12 +247,12 @@ void queue_tag(expat_source &source, event_kind kind, const XML_Char *name, cons
 
 void XMLCALL on_start_tag(void *user, const XML_Char *name, const XML_Char **attributes)
 {
-    queue_tag(*static_cast<expat_source *>(user), event_kind::start_tag, name, attributes);
+    queue_tag(*static_cast<expat_source *>(user), queued_kind::start_tag, name, attributes);
 }
 
 void XMLCALL on_end_tag(void *user, const XML_Char *name)
 {
-    queue_tag(*static_cast<expat_source *>(user), event_kind::end_tag, name, nullptr);
+    queue_tag(*static_cast<expat_source *>(user), queued_kind::end_tag, name, nullptr);
 }
 
 // Expat reports line feeds alone, so white space in front of other text is on the same line.
@@ -236,10 +271,10 @@ position place_of_first_significant(const expat_source &source, std::string_view
 bool queue_text(expat_source &source, std::string_view text)
 {
     bool joins =
-        source.events.count > 0 && source.events.items[source.events.count - 1].kind == event_kind::text;
+        source.events.count > 0 && source.events.items[source.events.count - 1].kind == queued_kind::text;
     if (!joins) {
         queued_event queued = {};
-        queued.kind = event_kind::text;
+        queued.kind = queued_kind::text;
         queued.place = here(source);
         queued.text.start = source.octets.count;
         if (!append(source.events, queued))
@@ -366,45 +401,88 @@ void refill(expat_source &source)
     }
 }
 
-bool deliver_attributes(expat_source &source, const queued_event &queued, event &out)
+bool gather_text(expat_source &source, const queued_event &queued)
 {
-    source.delivered.count = 0;
+    if (!source.has_text)
+        source.text_place = queued.place;
+    source.has_text = true;
+    if (queued.significant && !source.significant) {
+        source.significant = true;
+        source.text_place = queued.significant_place;
+    }
+    return append_text(source.text, view(source.octets, queued.text));
+}
+
+bool deliver_attribute(expat_source &source, const queued_attribute &queued, event &out)
+{
+    std::string_view name, value;
+    if (!push_text(*source.reader.texts, view(source.octets, queued.name), name) ||
+        !push_text(*source.reader.texts, view(source.octets, queued.value), value))
+        return false;
+    attribute item = {};
+    item.name = name.data();
+    item.name_length = static_cast<uint32_t>(name.size());
+    item.value = value.data();
+    item.value_length = static_cast<uint32_t>(value.size());
+    item.name_hash = name_hash(name.data(), name.size());
+    item.markup_at = queued.markup_at;
+    item.made_value = true;
+    out.has_colons = out.has_colons || name.find(':') != std::string_view::npos;
+    out.has_declarations = out.has_declarations || name.starts_with("xmlns");
+    ++out.attribute_count;
+    return append(*source.reader.attributes, item);
+}
+
+bool deliver_tag(expat_source &source, const queued_event &queued, event &out)
+{
+    out.kind = queued.kind == queued_kind::start_tag ? event_kind::start_tag : event_kind::end_tag;
+    out.place = queued.place;
+    if (!push_text(*source.reader.texts, view(source.octets, queued.text), out.name) ||
+        !push_text(*source.reader.texts, view(source.octets, queued.markup), out.markup))
+        return false;
+    out.name_hash = name_hash(out.name.data(), out.name.size());
+    out.has_colons = out.name.find(':') != std::string_view::npos;
+    out.stable = true;
     for (size_t i = 0; i < queued.attribute_count; ++i) {
-        const queued_attribute &attribute = source.attributes.items[queued.first_attribute + i];
-        tag_attribute item = {view(source.octets, attribute.name), view(source.octets, attribute.value)};
-        if (!append(source.delivered, item))
+        if (!deliver_attribute(source, source.attributes.items[queued.first_attribute + i], out))
             return false;
     }
-    out.attributes = source.delivered.items;
-    out.attribute_count = queued.attribute_count;
     return true;
+}
+
+// Gathers texts up to the next tag and delivers that; false: memory is out.
+bool deliver_next(expat_source &source, event &out)
+{
+    for (;;) {
+        refill(source);
+        if (source.next == source.events.count) {
+            out = source.ending;
+            return true;
+        }
+        const queued_event &queued = source.events.items[source.next++];
+        if (queued.kind != queued_kind::text)
+            return deliver_tag(source, queued, out);
+        if (!gather_text(source, queued))
+            return false;
+    }
 }
 
 void next_event(void *state, event &out)
 {
     expat_source &source = *static_cast<expat_source *>(state);
-    refill(source);
-    if (source.next == source.events.count) {
-        out = source.ending;
-        return;
-    }
-    const queued_event &queued = source.events.items[source.next++];
+    source.text.count = 0;
+    source.has_text = source.significant = false;
     out = {};
-    out.kind = queued.kind;
-    out.place = queued.place;
-    if (queued.kind == event_kind::text) {
-        out.text = view(source.octets, queued.text);
-        out.significant = queued.significant;
-        out.significant_place = queued.significant_place;
-        return;
-    }
-    out.name = view(source.octets, queued.text);
-    out.markup = view(source.octets, queued.markup);
-    if (!deliver_attributes(source, queued, out)) {
+    if (!deliver_next(source, out)) {
         source.next = source.events.count;
         end_with(source, XB_E_NO_MEMORY, {});
         out = source.ending;
     }
+    out.has_text = source.has_text;
+    out.significant = source.significant;
+    out.text_place = source.text_place;
+    if (source.has_text)
+        out.text = std::string_view(source.text.items, source.text.count);
 }
 
 void destroy(void *state)
@@ -414,7 +492,7 @@ void destroy(void *state)
     release_array(source->events);
     release_array(source->attributes);
     release_array(source->octets);
-    release_array(source->delivered);
+    release_array(source->text);
     memory::release(source);
 }
 
@@ -433,7 +511,7 @@ void set_handlers(expat_source &source)
 
 }  // namespace
 
-bool create_expat_source(event_source &source, input &in, size_t chunk_size)
+bool create_expat_source(event_source &source, input &in, size_t chunk_size, const event_reader &reader)
 {
     void *block = memory::request(sizeof(expat_source));
     if (block == nullptr)
@@ -446,9 +524,10 @@ bool create_expat_source(event_source &source, input &in, size_t chunk_size)
         return false;
     }
     made->in = &in;
+    made->reader = reader;
     made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
     set_handlers(*made);
-    source = {next_event, destroy, made};
+    source = {next_event, destroy, nullptr, made};
     return true;
 }
 

@@ -16,11 +16,10 @@ namespace inv::xml
 ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error)
 {
     if (from.descriptor < 0) {
-        size_t taken = std::min(size, from.octet_count);
+        size_t taken = std::min(size, from.octet_count - from.taken);
         if (taken != 0)
-            memcpy(buffer, from.octets, taken);
-        from.octets += taken;
-        from.octet_count -= taken;
+            memcpy(buffer, from.octets + from.taken, taken);
+        from.taken += taken;
         return static_cast<ptrdiff_t>(taken);
     }
     for (;;) {
@@ -32,6 +31,17 @@ ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error)
             return -1;
         }
     }
+}
+
+bool input_can_rewind(const input &from)
+{
+    return from.descriptor < 0 || lseek(from.descriptor, 0, SEEK_CUR) == 0;
+}
+
+bool input_rewind(input &from)
+{
+    from.taken = 0;
+    return from.descriptor < 0 || lseek(from.descriptor, 0, SEEK_SET) == 0;
 }
 
 void input_close(input &which)

@@ -11,11 +11,16 @@ struct input {
     bool open = false;
     int descriptor = -1;  // -1: octets in memory
     const char *octets = nullptr;
-    size_t octet_count = 0;  // not yet read
+    size_t octet_count = 0;
+    size_t taken = 0;  // of the octets in memory
 };
 
 // Reads up to size octets; 0 at the end, -1 on failure with the system's error in *error.
 ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error);
+
+// Whether the octets can be read once more from the first one on.
+bool input_can_rewind(const input &from);
+bool input_rewind(input &from);
 
 void input_close(input &which);
 

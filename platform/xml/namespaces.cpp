@@ -37,11 +37,11 @@ bool grow_buckets(namespace_scope &scope)
 
 }  // namespace
 
-bool scope_declare(namespace_scope &scope, const growing_array<char> &texts, text_span prefix, text_span uri)
+bool scope_declare(namespace_scope &scope, std::string_view prefix, std::string_view uri)
 {
     if (scope.bindings.count == scope.buckets.count && !grow_buckets(scope))
         return false;
-    if (!append(scope.bindings, namespace_binding{prefix, uri, hash_of(view(texts, prefix)), 0}))
+    if (!append(scope.bindings, namespace_binding{prefix, uri, hash_of(prefix), 0}))
         return false;
     link_binding(scope, scope.bindings.count - 1);
     return true;
@@ -61,8 +61,7 @@ void scope_enter_again(namespace_scope &scope, size_t binding_count)
         link_binding(scope, scope.bindings.count++);
 }
 
-bool scope_find(const namespace_scope &scope, const growing_array<char> &texts, std::string_view prefix,
-                std::string_view &uri)
+bool scope_find(const namespace_scope &scope, std::string_view prefix, std::string_view &uri)
 {
     if (prefix == "xml") {
         uri = xml_uri;
@@ -74,8 +73,8 @@ bool scope_find(const namespace_scope &scope, const growing_array<char> &texts, 
     size_t next = scope.buckets.items[hash & (scope.buckets.count - 1)];
     while (next != 0) {
         const namespace_binding &binding = scope.bindings.items[next - 1];
-        if (binding.hash == hash && view(texts, binding.prefix) == prefix) {
-            uri = view(texts, binding.uri);
+        if (binding.hash == hash && binding.prefix == prefix) {
+            uri = binding.uri;
             return !uri.empty();
         }
         next = binding.shadowed;

@@ -11,13 +11,13 @@ constexpr std::string_view xsi_uri = "http://www.w3.org/2001/XMLSchema-instance"
 constexpr std::string_view xml_uri = "http://www.w3.org/XML/1998/namespace";
 
 struct namespace_binding {
-    text_span prefix;  // empty: the default namespace
-    text_span uri;
+    std::string_view prefix;  // empty: the default namespace
+    std::string_view uri;
     uint32_t hash;
     size_t shadowed;  // index plus 1 of the next older binding in the same bucket
 };
 
-// Texts stand in an array of the owner, which every call gets. Bindings that have been dropped stay
+// Texts are the owner's and outlive their bindings. Bindings that have been dropped stay
 // where they are until others are declared, so that a scope can be entered again.
 struct namespace_scope {
     growing_array<namespace_binding> bindings;
@@ -25,14 +25,13 @@ struct namespace_scope {
 };
 
 // False when memory is out.
-bool scope_declare(namespace_scope &scope, const growing_array<char> &texts, text_span prefix, text_span uri);
+bool scope_declare(namespace_scope &scope, std::string_view prefix, std::string_view uri);
 
 void scope_leave(namespace_scope &scope, size_t binding_count);
 void scope_enter_again(namespace_scope &scope, size_t binding_count);
 
 // True when the prefix is bound, also "" to a default namespace; a binding to "" is none.
-bool scope_find(const namespace_scope &scope, const growing_array<char> &texts, std::string_view prefix,
-                std::string_view &uri);
+bool scope_find(const namespace_scope &scope, std::string_view prefix, std::string_view &uri);
 
 void scope_release(namespace_scope &scope);
 

@@ -38,22 +38,22 @@ namespace
 
 void forget_text(reader &r)
 {
-    r.text.count = 0;
-    r.has_text = false;
-    r.text_significant = false;
-    r.text_taken = false;
+    r.text = {};
+    r.has_text = r.text_significant = r.text_taken = false;
 }
 
-bool gather_text(reader &r, const event &piece)
+std::string_view name_of_open_element(void *owner)
 {
-    if (!r.has_text)
-        r.text_place = piece.place;
-    r.has_text = true;
-    if (piece.significant && !r.text_significant) {
-        r.text_significant = true;
-        r.text_place = piece.significant_place;
-    }
-    return append_text(r.text, piece.text);
+    const reader &r = *static_cast<reader *>(owner);
+    return r.tags.depth == 0 ? std::string_view() : r.tags.elements[r.tags.depth - 1].name;
+}
+
+// What stays when the source goes on.
+bool keep_what_is_used(void *owner)
+{
+    reader &r = *static_cast<reader *>(owner);
+    complete(r.source, r.place);
+    return keep_open_elements(r.tags, r.source);
 }
 
 int32_t fail(xb_context_state &state, int32_t status, position place, std::string_view reason)
@@ -68,6 +68,11 @@ int32_t fail(xb_context_state &state, int32_t status, position place, std::strin
 int32_t take_event(xb_context_state &state, const event &next)
 {
     reader &r = state.reader;
+    r.text = next.text;
+    r.has_text = next.has_text;
+    r.text_significant = next.significant;
+    if (next.has_text)
+        r.text_place = next.text_place;
     if (next.kind == event_kind::failure)
         return fail(state, next.status, next.place, next.reason);
     if (next.kind == event_kind::start_tag) {
@@ -89,7 +94,6 @@ void reader_close(reader &r)
     if (r.source.state != nullptr)
         r.source.destroy(r.source.state);
     release_tags(r.tags);
-    release_array(r.text);
     r = {};
     r.selected = no_attribute;
 }
@@ -103,14 +107,10 @@ int32_t read_ahead(xb_context_state &state)
         return XB_E_BAD_STATE;
     // What is stacked next takes the slot of the element that was closed last.
     r.can_push_back = false;
-    for (;;) {
-        event next;
-        r.source.next(r.source.state, next);
-        if (next.kind != event_kind::text)
-            return take_event(state, next);
-        if (!gather_text(r, next))
-            return fail(state, XB_E_NO_MEMORY, next.place, {});
-    }
+    cut_to_open_elements(r.tags);
+    event next;
+    r.source.next(r.source.state, next);
+    return take_event(state, next);
 }
 
 int32_t read_event(xb_context_state &state)
@@ -159,17 +159,20 @@ void consume_tag(reader &r)
 
 position place_of_selected(reader &r)
 {
-    const element &tag = r.tags.elements[r.tags.depth - 1];
-    const attribute &item = r.tags.attributes.items[tag.attribute_begin + r.selected];
-    return place_of_attribute(r.tags, tag, item.tag_index);
+    element &tag = r.tags.elements[r.tags.depth - 1];
+    complete(r.source, tag.place);
+    return place_of_attribute(r.tags, tag, r.tags.attributes.items[tag.attribute_begin + r.selected]);
 }
 
 position error_place(xb_context_state &state, int32_t status)
 {
     reader &r = state.reader;
-    if (status == XB_E_ATTRIBUTE_MISSING && r.tags.depth > 0)
-        return r.tags.elements[r.tags.depth - 1].place;
-    return r.selected == no_attribute ? r.place : place_of_selected(r);
+    if (status != XB_E_ATTRIBUTE_MISSING && r.selected != no_attribute)
+        return place_of_selected(r);
+    bool is_tags = status == XB_E_ATTRIBUTE_MISSING && r.tags.depth > 0;
+    position &place = is_tags ? r.tags.elements[r.tags.depth - 1].place : r.place;
+    complete(r.source, place);
+    return place;
 }
 
 }  // namespace inv::xml
@@ -183,8 +186,12 @@ int32_t rtXmlpCreateReader(xb_context *ctx)
         return XB_E_BAD_STATE;
     reader_close(state.reader);
     end_travel(state.errors);
-    state.reader.place = {1, 1, 0};
-    return create_expat_source(state.reader.source, state.in, state.chunk_size) ? XB_OK : XB_E_NO_MEMORY;
+    reader &r = state.reader;
+    r.place = {1, 1, 0};
+    const event_reader lent = {&r.tags.attributes, &r.tags.made_texts, name_of_open_element,
+                               keep_what_is_used, &r};
+    auto *create = state.slow_road || !input_can_rewind(state.in) ? create_expat_source : create_fast_source;
+    return create(r.source, state.in, state.chunk_size, lent) ? XB_OK : XB_E_NO_MEMORY;
 }
 
 void rtXmlpMarkLastEventActive(xb_context *ctx)

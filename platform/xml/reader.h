@@ -3,7 +3,6 @@
 #define PLATFORM_XML_READER_H
 
 #include "event_source.h"
-#include "growing_array.h"
 #include "tags.h"
 
 namespace inv::xml
@@ -24,8 +23,8 @@ struct reader {
     bool can_push_back;
     event_kind last_kind;
 
-    // The text between the last tag and the event read ahead.
-    growing_array<char> text;
+    // The text between the last tag and the event read ahead: the source's until it reads on.
+    std::string_view text;
     bool has_text;
     position text_place;  // its first character, other than white space where there is one
     bool text_significant;
@@ -43,7 +42,7 @@ struct reader {
 // Gives back what the reader holds.
 void reader_close(reader &r);
 
-// Reads ahead up to the next event that is not text. Returns the reader's failure, if any, without
+// Reads the next event ahead, unless one is ahead already. Returns the reader's failure, if any, without
 // leaving a trace of it.
 int32_t read_ahead(xb_context_state &state);
 

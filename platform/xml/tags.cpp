@@ -2,6 +2,8 @@
 
 #include "characters.h"
 
+#include <cstring>
+
 namespace inv::xml
 {
 
@@ -15,49 +17,28 @@ bool is_declaration(std::string_view name)
     return name == "xmlns" || name.starts_with(declaration_prefix);
 }
 
-// Everything behind the open elements' part is free.
-void cut_to_open_elements(tag_stack &tags)
+bool stack_declaration(tag_stack &tags, const attribute &item)
 {
-    element *top = current_element(tags);
-    tags.texts.count = top == nullptr ? 0 : top->text_end;
-    tags.attributes.count = top == nullptr ? 0 : top->attribute_end;
-    scope_leave(tags.scope, top == nullptr ? 0 : top->binding_end);
-}
-
-text_span part_of(text_span whole, std::string_view whole_text, std::string_view part)
-{
-    return {whole.start + static_cast<size_t>(part.data() - whole_text.data()), part.size()};
-}
-
-bool stack_declaration(tag_stack &tags, const tag_attribute &item)
-{
-    std::string_view prefix = item.name;
+    std::string_view prefix = name_of(item);
     prefix.remove_prefix(std::min(prefix.size(), declaration_prefix.size()));
-    text_span prefix_span, uri_span;
-    return keep_text(tags.texts, prefix, prefix_span) && keep_text(tags.texts, item.value, uri_span) &&
-           scope_declare(tags.scope, tags.texts, prefix_span, uri_span);
+    std::string_view kept_prefix, kept_uri;
+    return push_text(tags.made_texts, prefix, kept_prefix) &&
+           push_text(tags.made_texts, value_of(item), kept_uri) &&
+           scope_declare(tags.scope, kept_prefix, kept_uri);
 }
 
-bool stack_attribute(tag_stack &tags, const tag_attribute &item, size_t tag_index)
+// Declarations leave the attributes and come into scope.
+bool take_declarations(tag_stack &tags, const element &tag)
 {
-    attribute kept = {};
-    kept.tag_index = tag_index;
-    if (!keep_text(tags.texts, item.name, kept.name) || !append_text(tags.texts, std::string_view("", 1)) ||
-        !keep_text(tags.texts, item.value, kept.value) || !append_text(tags.texts, std::string_view("", 1)))
-        return false;
-    kept.local = part_of(kept.name, item.name, split_qualified_name(item.name).local);
-    return append(tags.attributes, kept);
-}
-
-bool stack_attributes(tag_stack &tags, const event &start)
-{
-    for (size_t i = 0; i < start.attribute_count; ++i) {
-        const tag_attribute &item = start.attributes[i];
-        bool kept =
-            is_declaration(item.name) ? stack_declaration(tags, item) : stack_attribute(tags, item, i);
-        if (!kept)
+    size_t kept = tag.attribute_begin;
+    for (size_t i = tag.attribute_begin; i < tags.attributes.count; ++i) {
+        const attribute &item = tags.attributes.items[i];
+        if (!is_declaration(name_of(item)))
+            tags.attributes.items[kept++] = item;
+        else if (!stack_declaration(tags, item))
             return false;
     }
+    tags.attributes.count = kept;
     return true;
 }
 
@@ -68,7 +49,7 @@ name_kind classify(const tag_stack &tags, std::string_view name, bool is_element
     if (prefix.empty() && !is_element)
         return name_kind::plain;
     std::string_view uri;
-    if (!scope_find(tags.scope, tags.texts, prefix, uri))
+    if (!scope_find(tags.scope, prefix, uri))
         return prefix.empty() ? name_kind::plain : name_kind::undeclared_prefix;
     return uri == xsi_uri ? name_kind::xsi : name_kind::foreign;
 }
@@ -76,38 +57,60 @@ name_kind classify(const tag_stack &tags, std::string_view name, bool is_element
 // Needs all of the tag's declarations in scope, wherever in the tag they stand.
 void classify_names(tag_stack &tags, element &tag)
 {
-    tag.kind = classify(tags, view(tags.texts, tag.name), true);
+    tag.kind = classify(tags, tag.name, true);
+    tag.local = split_qualified_name(tag.name).local;
+    tag.has_other_attributes = false;
     for (size_t i = tag.attribute_begin; i < tag.attribute_end; ++i) {
         attribute &item = tags.attributes.items[i];
-        item.kind = classify(tags, view(tags.texts, item.name), false);
+        item.kind = classify(tags, name_of(item), false);
         (item.kind == name_kind::xsi ? tag.has_xsi_attributes : tag.has_other_attributes) = true;
     }
 }
 
 }  // namespace
 
+void cut_to_open_elements(tag_stack &tags)
+{
+    if (tags.depth == 0) {
+        tags.attributes.count = 0;
+        scope_leave(tags.scope, 0);
+        pop_to(tags.made_texts, {});
+        pop_to(tags.kept_texts, {});
+        return;
+    }
+    const element &top = tags.elements[tags.depth - 1];
+    tags.attributes.count = top.attribute_end;
+    scope_leave(tags.scope, top.binding_end);
+    pop_to(tags.made_texts, top.made_end);
+    pop_to(tags.kept_texts, top.kept_end);
+}
+
 int32_t stack_tag(tag_stack &tags, const event &start)
 {
     if (tags.depth == XB_MAX_DEPTH)
         return XB_E_DEPTH;
-    cut_to_open_elements(tags);
-    tags.walk = {};
+    tags.walk.tag = nullptr;
     element &tag = tags.elements[tags.depth];
-    tag = {};
     tag.place = start.place;
-    tag.attribute_begin = tags.attributes.count;
+    tag.name = start.name;
+    tag.local = start.name;
+    tag.markup = start.markup;
+    tag.name_hash = start.name_hash;
+    tag.attribute_begin = tags.attributes.count - start.attribute_count;
     tag.binding_begin = tags.scope.bindings.count;
-    bool kept = keep_text(tags.texts, start.name, tag.name) &&
-                keep_text(tags.texts, start.markup, tag.markup) && stack_attributes(tags, start);
-    if (!kept) {
-        cut_to_open_elements(tags);
+    tag.kind = name_kind::plain;
+    tag.has_xsi_attributes = false;
+    tag.has_other_attributes = start.attribute_count > 0;
+    tag.kept = start.stable;
+    tag.declarations_taken = tag.xsi_taken = tag.hidden = false;
+    if (start.has_declarations && !take_declarations(tags, tag))
         return XB_E_NO_MEMORY;
-    }
-    tag.local = part_of(tag.name, start.name, split_qualified_name(start.name).local);
-    tag.text_end = tags.texts.count;
     tag.attribute_end = tags.attributes.count;
     tag.binding_end = tags.scope.bindings.count;
-    classify_names(tags, tag);
+    tag.made_end = mark_of(tags.made_texts);
+    tag.kept_end = mark_of(tags.kept_texts);
+    if (start.has_colons || tag.binding_end > 0)
+        classify_names(tags, tag);
     scope_leave(tags.scope, tag.binding_begin);
     return tag.kind == name_kind::undeclared_prefix ? XB_E_UNDECLARED_PREFIX : XB_OK;
 }
@@ -115,8 +118,6 @@ int32_t stack_tag(tag_stack &tags, const event &start)
 void enter_element(tag_stack &tags)
 {
     const element &tag = tags.elements[tags.depth++];
-    tags.texts.count = tag.text_end;
-    tags.attributes.count = tag.attribute_end;
     scope_enter_again(tags.scope, tag.binding_end);
 }
 
@@ -128,15 +129,51 @@ void leave_element(tag_stack &tags)
 void release_tags(tag_stack &tags)
 {
     tags.walk = {};
-    release_array(tags.texts);
     release_array(tags.attributes);
     scope_release(tags.scope);
+    release_texts(tags.made_texts);
+    release_texts(tags.kept_texts);
     tags.depth = 0;
 }
 
-element *current_element(tag_stack &tags)
+namespace
 {
-    return tags.depth == 0 ? nullptr : &tags.elements[tags.depth - 1];
+
+bool keep_markup(tag_stack &tags, element &tag)
+{
+    std::string_view copy;
+    if (!push_text(tags.kept_texts, tag.markup, copy))
+        return false;
+    auto moved = [&](const char *text) { return copy.data() + (text - tag.markup.data()); };
+    tag.name = std::string_view(moved(tag.name.data()), tag.name.size());
+    tag.local = std::string_view(moved(tag.local.data()), tag.local.size());
+    for (size_t i = tag.attribute_begin; i < tag.attribute_end; ++i) {
+        attribute &item = tags.attributes.items[i];
+        item.name = moved(item.name);
+        if (!item.made_value)
+            item.value = moved(item.value);
+    }
+    tag.markup = copy;
+    return true;
+}
+
+}  // namespace
+
+bool keep_open_elements(tag_stack &tags, const event_source &source)
+{
+    // What is kept already lies below what is not.
+    uint32_t first = tags.depth;
+    while (first > 0 && !tags.elements[first - 1].kept)
+        --first;
+    for (uint32_t i = first; i < tags.depth; ++i) {
+        element &tag = tags.elements[i];
+        if (!keep_markup(tags, tag))
+            return false;
+        tag.kept = true;
+        tag.kept_end = mark_of(tags.kept_texts);
+        complete(source, tag.place);
+    }
+    return true;
 }
 
 namespace
@@ -156,55 +193,18 @@ void step(markup_walk &walk, std::string_view markup)
     }
 }
 
-void step_to(markup_walk &walk, std::string_view markup, std::string_view stops)
-{
-    while (walk.at < markup.size() && stops.find(markup[walk.at]) == std::string_view::npos)
-        step(walk, markup);
-}
-
-void step_over_white_space(markup_walk &walk, std::string_view markup)
-{
-    while (walk.at < markup.size() && is_white_space(markup[walk.at]))
-        step(walk, markup);
-}
-
-// From an attribute's name to the next one's.
-void step_over_attribute(markup_walk &walk, std::string_view markup)
-{
-    step_to(walk, markup, "\"'");
-    if (walk.at == markup.size())
-        return;
-    std::string_view quote = markup.substr(walk.at, 1);
-    step(walk, markup);
-    step_to(walk, markup, quote);
-    if (walk.at < markup.size())
-        step(walk, markup);
-    step_over_white_space(walk, markup);
-    ++walk.tag_index;
-}
-
-void start_walk(markup_walk &walk, const element &tag, std::string_view markup)
-{
-    walk = {tag.markup, 0, 0, tag.place};
-    step_to(walk, markup, white_space);
-    step_over_white_space(walk, markup);
-}
-
 }  // namespace
 
-position place_of_attribute(tag_stack &tags, const element &tag, size_t tag_index)
+position place_of_attribute(tag_stack &tags, const element &tag, const attribute &item)
 {
+    if (item.markup_at == not_in_markup)
+        return tag.place;
     markup_walk &walk = tags.walk;
-    std::string_view markup = view(tags.texts, tag.markup);
-    bool goes_on =
-        walk.markup.length != 0 && walk.markup.start == tag.markup.start && walk.tag_index <= tag_index;
-    if (!goes_on)
-        start_walk(walk, tag, markup);
-    while (walk.tag_index < tag_index && walk.at < markup.size())
-        step_over_attribute(walk, markup);
-    // An attribute that only the document type gives stands nowhere in the tag.
-    bool found = walk.at < markup.size() && markup[walk.at] != '/' && markup[walk.at] != '>';
-    return found ? walk.place : tag.place;
+    if (walk.tag != &tag || walk.at > item.markup_at)
+        walk = {&tag, 0, tag.place};
+    while (walk.at < item.markup_at)
+        step(walk, tag.markup);
+    return walk.place;
 }
 
 }  // namespace inv::xml

@@ -9,28 +9,21 @@
 namespace inv::xml
 {
 
-enum class name_kind : uint8_t { plain, xsi, foreign, undeclared_prefix };
-
-struct attribute {
-    text_span name;  // with prefix
-    text_span local;
-    text_span value;   // followed by a NUL
-    size_t tag_index;  // its place among all attributes of the tag, declarations included
-    name_kind kind;
-};
-
 struct element {
-    position place;  // of the '<'
-    text_span name;  // with prefix
-    text_span local;
-    text_span markup;  // the start tag as the document has it, or empty
+    position place;         // of the '<'
+    std::string_view name;  // with prefix
+    std::string_view local;
+    std::string_view markup;  // the start tag as the document has it, or empty
+    uint32_t name_hash;
     // What the tag owns of the stacks below: from where its parent's part ends up to here.
-    size_t text_end;
     size_t attribute_begin;
     size_t attribute_end;
     size_t binding_begin;
     size_t binding_end;
+    text_mark made_end;
+    text_mark kept_end;
     name_kind kind;
+    bool kept;  // its texts no longer stand in the source's memory
     bool has_xsi_attributes;
     bool has_other_attributes;
     bool declarations_taken;
@@ -41,36 +34,47 @@ struct element {
 // How far the search for an attribute's place has come in one start tag: errors come in document
 // order, so that the next search goes on from here.
 struct markup_walk {
-    text_span markup;  // empty: no search yet
+    const element *tag;  // null: no search yet
     size_t at;
-    size_t tag_index;  // of the attribute that starts there
     position place;
 };
 
 // Elements 0 .. depth - 1 are open. The slot behind them holds the start tag that was read ahead or
 // the element that was closed last; both can be entered without reading anything again.
 struct tag_stack {
-    growing_array<char> texts;
     growing_array<attribute> attributes;
     namespace_scope scope;
+    text_stack made_texts;  // namespace declarations and what sources had to rewrite
+    text_stack kept_texts;  // of tags whose source has gone on
     element elements[XB_MAX_DEPTH];
     uint32_t depth;
     markup_walk walk;
 };
 
-// Puts a start tag into the slot behind the open elements: XB_OK, XB_E_DEPTH, XB_E_NO_MEMORY or
-// XB_E_UNDECLARED_PREFIX (the tag is there then).
+// Frees everything behind the open elements' part: the slot's tag is gone. Comes before a source
+// delivers the next tag.
+void cut_to_open_elements(tag_stack &tags);
+
+// Puts a start tag, whose attributes have been appended, into the slot behind the open elements:
+// XB_OK, XB_E_DEPTH, XB_E_NO_MEMORY or XB_E_UNDECLARED_PREFIX (the tag is there then).
 int32_t stack_tag(tag_stack &tags, const event &start);
 
 void enter_element(tag_stack &tags);
 void leave_element(tag_stack &tags);
 void release_tags(tag_stack &tags);
 
-// The innermost open element, or null.
-element *current_element(tag_stack &tags);
+// Makes the open elements independent of the source's memory and completes their places.
+bool keep_open_elements(tag_stack &tags, const event_source &source);
 
-// Where attribute tag_index of the tag starts; the tag's place when that is not known.
-position place_of_attribute(tag_stack &tags, const element &tag, size_t tag_index);
+// The innermost open element, or null.
+inline element *current_element(tag_stack &tags)
+{
+    return tags.depth == 0 ? nullptr : &tags.elements[tags.depth - 1];
+}
+
+// Where the attribute of the tag, whose place must be complete, starts; the tag's place when that is
+// not known.
+position place_of_attribute(tag_stack &tags, const element &tag, const attribute &item);
 
 }  // namespace inv::xml
 

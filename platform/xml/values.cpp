@@ -18,7 +18,7 @@ int32_t take_value(xb_context_state &state, std::string_view &text)
         return XB_E_BAD_STATE;
     const element &tag = r.tags.elements[r.tags.depth - 1];
     if (r.selected != no_attribute) {
-        text = view(r.tags.texts, r.tags.attributes.items[tag.attribute_begin + r.selected].value);
+        text = value_of(r.tags.attributes.items[tag.attribute_begin + r.selected]);
         return XB_OK;
     }
     int32_t status = read_event(state);
@@ -28,7 +28,7 @@ int32_t take_value(xb_context_state &state, std::string_view &text)
         return XB_E_TEXT_UNEXPECTED;
     r.text_taken = true;
     r.place = r.has_text ? r.text_place : tag.place;
-    text = std::string_view(r.text.items, r.text.count);
+    text = r.text;
     return XB_OK;
 }
 

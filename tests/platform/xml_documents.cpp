@@ -270,7 +270,7 @@ TEST(XmlDocuments, an_entity_bomb_in_a_value_ends_in_bounded_memory)
     xml_document document(bomb("lol", "<r>&e10;</r>"), {"r"});
     char *text = nullptr;
     EXPECT_EQ(rtXmlpDecDynUTF8Str(&document.ctx, &text), XB_E_MALFORMED);
-    EXPECT_LT(document.ctx.state->reader.text.capacity, 32U << 20);
+    EXPECT_LT(document.ctx.state->reader.text.size(), 32U << 20);
 }
 
 TEST(XmlDocuments, an_entity_bomb_of_elements_ends_in_bounded_memory)
@@ -278,14 +278,18 @@ TEST(XmlDocuments, an_entity_bomb_of_elements_ends_in_bounded_memory)
     xml_document document(bomb("<a>x</a>", "<r>&e10;</r>"), {"r"});
     element_table table({"a"});
     int32_t status = XB_OK;
-    while ((status = next_of(document, table)) == 0) {
+    // It may end in front of an element, in its text or in front of its end tag.
+    while (status == XB_OK) {
         char *text = nullptr;
-        ASSERT_EQ(rtXmlpDecDynUTF8Str(&document.ctx, &text), XB_OK);
+        status = next_of(document, table);
+        if (status == XB_OK)
+            status = rtXmlpDecDynUTF8Str(&document.ctx, &text);
         rtxMemHeapFreePtr(&document.ctx, text);
-        ASSERT_EQ(leave(document), XB_OK);
+        if (status == XB_OK)
+            status = leave(document);
     }
     EXPECT_EQ(status, XB_E_MALFORMED);
-    EXPECT_LT(document.ctx.state->reader.text.capacity, 4096U);
+    EXPECT_LT(document.ctx.state->reader.text.size(), 4096U);
 }
 
 // Octets that malloc() has handed out; 0 where a sanitizer has taken its place.

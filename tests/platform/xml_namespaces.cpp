@@ -1,4 +1,5 @@
 #include "xml/namespaces.h"
+#include "xml/text_stack.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -10,24 +11,24 @@ namespace
 
 struct scope_under_test {
     namespace_scope scope;
-    growing_array<char> texts;
+    text_stack texts;
 
     ~scope_under_test()
     {
         scope_release(scope);
-        release_array(texts);
+        release_texts(texts);
     }
     void declare(std::string_view prefix, std::string_view uri)
     {
-        text_span prefix_span, uri_span;
-        ASSERT_TRUE(keep_text(texts, prefix, prefix_span) && keep_text(texts, uri, uri_span));
-        ASSERT_TRUE(scope_declare(scope, texts, prefix_span, uri_span));
+        std::string_view kept_prefix, kept_uri;
+        ASSERT_TRUE(push_text(texts, prefix, kept_prefix) && push_text(texts, uri, kept_uri));
+        ASSERT_TRUE(scope_declare(scope, kept_prefix, kept_uri));
     }
     // "-" when the prefix is not bound.
     std::string find(std::string_view prefix) const
     {
         std::string_view uri;
-        return scope_find(scope, texts, prefix, uri) ? std::string(uri) : "-";
+        return scope_find(scope, prefix, uri) ? std::string(uri) : "-";
     }
 };
 

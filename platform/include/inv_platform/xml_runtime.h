@@ -155,7 +155,8 @@ void rtxStreamClose(xb_context *ctx);
  * returns it. After any other failure the reader stands where it stood.
  *
  * External entities are never loaded and end the reading with XB_E_MALFORMED, as do references
- * whose text is not known and entities or default values that expand far beyond the document's size.
+ * whose text is not known, entities or default values that expand far beyond the document's size, and
+ * a reference that one megabyte cannot hold the expansion of.
  * A document type that stands outside of the document is passed over; attribute values may then
  * refer to characters and the predefined entities only. One within may declare 1000 entities and
  * attributes at most. */

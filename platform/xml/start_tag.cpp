@@ -1,0 +1,242 @@
+// A start tag is read in two steps. The first finds its parts and whether they are well formed; most
+// tags need no more. The second, in document order, looks for attributes given twice and rewrites
+// values in which references or white space stand for something else.
+#include "start_tag.h"
+
+#include "characters.h"
+#include "inv_platform/name_hash.h"
+#include "scan.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace inv::xml
+{
+
+namespace
+{
+
+// What the first step has noticed about the tag as a whole.
+struct tag_traits {
+    bool has_colons = false;
+    bool has_declarations = false;
+    bool has_rewrites = false;  // attributes with made_value
+    bool may_repeat = false;    // two names may be the same
+    uint64_t seen = 0;          // one bit for each name, by its hash
+};
+
+constexpr size_t few_attributes = 64;
+
+lexed unexpected(lexer &lex, const char *at)
+{
+    return at == lex.view.end ? lexed::need_more : fail_at(lex, at);
+}
+
+const char *skip_space(const char *at)
+{
+    return is_white_space(*at) ? skip_white_space(at) : at;
+}
+
+// The rest of a value from an octet on that is not plain; stops in front of the quote.
+lexed lex_odd_value(lexer &lex, const char *&at, char quote, bool &needs_rewrite)
+{
+    while (*at != quote) {
+        lexed result;
+        reference found;
+        if (*at == '&') {
+            needs_rewrite = true;
+            result = lex_reference(lex, at, found);
+        } else if (*at == '<') {
+            result = fail_at(lex, at);
+        } else {
+            needs_rewrite = needs_rewrite || static_cast<unsigned char>(*at) < 0x20;
+            result = lex_character(lex, at);
+        }
+        if (result != lexed::ok)
+            return result;
+        at = skip_value(at, quote);
+    }
+    return lexed::ok;
+}
+
+lexed lex_attribute(lexer &lex, const char *&at, const char *tag, attribute &item, tag_traits &traits)
+{
+    const char *name = at;
+    lexed result = lex_name(lex, at, traits.has_colons);
+    if (result != lexed::ok)
+        return result;
+    auto length = static_cast<size_t>(at - name);
+    at = skip_space(at);
+    if (*at != '=')
+        return unexpected(lex, at);
+    at = skip_space(at + 1);
+    const char quote = *at;
+    if (quote != '"' && quote != '\'')
+        return unexpected(lex, at);
+    const char *value = ++at;
+    at = skip_value(at, quote);
+    bool needs_rewrite = false;
+    if (*at != quote) {
+        result = lex_odd_value(lex, at, quote, needs_rewrite);
+        if (result != lexed::ok)
+            return result;
+    }
+    item.name = name;
+    item.value = value;
+    item.name_length = static_cast<uint32_t>(length);
+    item.value_length = static_cast<uint32_t>(at - value);
+    item.name_hash = name_hash(name, length);
+    item.markup_at = static_cast<uint32_t>(name - tag);
+    item.made_value = needs_rewrite;
+    item.kind = name_kind::plain;
+    traits.has_rewrites = traits.has_rewrites || needs_rewrite;
+    traits.has_declarations =
+        traits.has_declarations || (length >= 5 && *name == 'x' && memcmp(name, "xmlns", 5) == 0);
+    uint64_t bit = uint64_t{1} << (item.name_hash >> 26);
+    traits.may_repeat = traits.may_repeat || (traits.seen & bit) != 0;
+    traits.seen |= bit;
+    ++at;
+    return lexed::ok;
+}
+
+// The tag's attributes and its end.
+lexed lex_attributes(lexer &lex, const char *&at, const char *tag, growing_array<attribute> &attributes,
+                     tag_traits &traits, bool &is_empty)
+{
+    for (;;) {
+        const char *before = at;
+        at = skip_space(at);
+        if (*at == '>') {
+            ++at;
+            return lexed::ok;
+        }
+        if (*at == '/') {
+            is_empty = true;
+            if (at[1] != '>')
+                return unexpected(lex, at + 1);
+            at += 2;
+            return lexed::ok;
+        }
+        if (at == before)
+            return unexpected(lex, at);
+        if (!make_room(attributes, 1))
+            return lexed::no_memory;
+        lexed result = lex_attribute(lex, at, tag, attributes.items[attributes.count], traits);
+        if (result != lexed::ok)
+            return result;
+        ++attributes.count;
+    }
+}
+
+// Index of the first attribute whose name an earlier one has, or `count`. Few are compared with each
+// other; many are sorted, so that no choice of names makes this slow.
+lexed find_repeated(const attribute *items, size_t count, size_t &repeated)
+{
+    repeated = count;
+    if (count <= few_attributes) {
+        for (size_t i = 1; i < count && repeated == count; ++i) {
+            for (size_t k = 0; k < i; ++k) {
+                if (items[i].name_hash == items[k].name_hash && name_of(items[i]) == name_of(items[k]))
+                    repeated = i;
+            }
+        }
+        return lexed::ok;
+    }
+    growing_array<size_t> order;
+    if (!make_room(order, count))
+        return lexed::no_memory;
+    for (size_t i = 0; i < count; ++i)
+        order.items[i] = i;
+    std::sort(order.items, order.items + count, [items](size_t a, size_t b) {
+        int by_name = name_of(items[a]).compare(name_of(items[b]));
+        return by_name != 0 ? by_name < 0 : a < b;
+    });
+    for (size_t i = 1; i < count; ++i) {
+        if (name_of(items[order.items[i - 1]]) == name_of(items[order.items[i]]))
+            repeated = std::min(repeated, order.items[i]);
+    }
+    release_array(order);
+    return lexed::ok;
+}
+
+// White space becomes blanks, line ends one blank each, references what they stand for; none of this
+// is longer than what it replaces.
+lexed rewrite_value(lexer &lex, text_stack &texts, attribute &item)
+{
+    char *made = push_octets(texts, item.value_length);
+    if (made == nullptr)
+        return lexed::no_memory;
+    char *to = made;
+    const char *end = item.value + item.value_length;
+    for (const char *at = item.value; at < end;) {
+        if (*at == '&') {
+            const char *start = at;
+            reference found;
+            lex_reference(lex, at, found);
+            if (found.character == no_character)
+                return fail_at(lex, start, found.error);
+            to = put_character(to, found.character);
+        } else if (is_white_space(*at)) {
+            at += at[0] == '\r' && at[1] == '\n' ? 2 : 1;
+            *to++ = ' ';
+        } else {
+            *to++ = *at++;
+        }
+    }
+    item.value = made;
+    auto length = static_cast<size_t>(to - made);
+    shrink_last(texts, item.value_length - length);
+    item.value_length = static_cast<uint32_t>(length);
+    return lexed::ok;
+}
+
+lexed finish_attributes(lexer &lex, text_stack &texts, attribute *items, size_t count,
+                        const tag_traits &traits)
+{
+    size_t repeated = count;
+    if (traits.may_repeat || count > few_attributes) {
+        lexed result = find_repeated(items, count, repeated);
+        if (result != lexed::ok)
+            return result;
+    }
+    for (size_t i = 0; traits.has_rewrites && i < repeated; ++i) {
+        lexed result = items[i].made_value ? rewrite_value(lex, texts, items[i]) : lexed::ok;
+        if (result != lexed::ok)
+            return result;
+    }
+    return repeated < count ? fail_at(lex, items[repeated].name, XML_ERROR_DUPLICATE_ATTRIBUTE) : lexed::ok;
+}
+
+}  // namespace
+
+lexed lex_start_tag(lexer &lex, const char *&at, const event_reader &reader, event &out, bool &is_empty)
+{
+    growing_array<attribute> &attributes = *reader.attributes;
+    const size_t before = attributes.count;
+    const char *tag = at;
+    tag_traits traits;
+    is_empty = false;
+    ++at;
+    lexed result = lex_name(lex, at, traits.has_colons);
+    if (result != lexed::ok)
+        return result;
+    out.name = std::string_view(tag + 1, static_cast<size_t>(at - tag) - 1);
+    result = lex_attributes(lex, at, tag, attributes, traits, is_empty);
+    const size_t count = attributes.count - before;
+    bool is_plain = !traits.has_rewrites && !traits.may_repeat && count <= few_attributes;
+    if (result == lexed::ok && !is_plain)
+        result = finish_attributes(lex, *reader.texts, attributes.items + before, count, traits);
+    if (result != lexed::ok) {
+        attributes.count = before;
+        return result;
+    }
+    out.name_hash = name_hash(out.name.data(), out.name.size());
+    out.attribute_count = count;
+    out.markup = std::string_view(tag, static_cast<size_t>(at - tag));
+    out.has_colons = traits.has_colons;
+    out.has_declarations = traits.has_declarations;
+    out.stable = false;
+    return lexed::ok;
+}
+
+}  // namespace inv::xml
