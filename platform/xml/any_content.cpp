@@ -1,7 +1,7 @@
 // Open content, written out again from its events: comments and processing instructions are gone,
 // CDATA sections are plain text, an empty element has two tags. What was declared outside of the
 // content is not repeated in it.
-#include "context.h"
+#include "reading.h"
 #include "values.h"
 
 using namespace inv::xml;
@@ -78,7 +78,7 @@ int32_t write_content(xb_context_state &state, text_buffer &out)
         int32_t status = read_event(state);
         if (status != XB_OK)
             return status;
-        if (!write_escaped(out, r.text, false))
+        if (!write_escaped(out, r.has_text ? r.text : std::string_view(), false))
             return XB_E_NO_MEMORY;
         bool is_start = r.ahead_kind == event_kind::start_tag;
         if (!is_start && r.tags.depth == depth)

@@ -1,5 +1,6 @@
 #include "characters.h"
 #include "context.h"
+#include "name_lookup.h"
 
 #include <new>
 
@@ -150,12 +151,9 @@ int32_t rtXmlpGetAttributeID(xb_context *ctx, const xb_attribute_row *table, int
     case name_kind::plain:
         break;
     }
-    std::string_view name = name_of(*item);
-    for (int32_t i = 0; i < row_count; ++i) {
-        if (std::string_view(table[i].name, table[i].name_length) == name)
-            return i;
-    }
-    return XB_E_ATTRIBUTE_UNKNOWN;
+    int32_t row = find_name(table, row_count, name_of(*item), item->name_hash,
+                            [](const xb_attribute_row &) { return true; });
+    return row >= 0 ? row : XB_E_ATTRIBUTE_UNKNOWN;
 }
 
 const char *rtXmlpGetAttributeName(xb_context *ctx, size_t *length)

@@ -1,4 +1,5 @@
-#include "context.h"
+#include "name_lookup.h"
+#include "reading.h"
 
 using namespace inv::xml;
 
@@ -43,14 +44,9 @@ int32_t find_row(const reader &r, const xb_element_row *rows, int32_t row_count,
     const element &tag = r.tags.elements[r.tags.depth];
     if (tag.kind != name_kind::plain)
         return -1;
-    std::string_view local = tag.local;
-    for (int32_t i = 0; i < row_count; ++i) {
-        const xb_element_row &row = rows[i];
-        bool allowed = row.content_index >= first && row.content_index < first + count;
-        if (allowed && std::string_view(row.name, row.name_length) == local)
-            return i;
-    }
-    return -1;
+    return find_name(rows, row_count, tag.name, tag.name_hash, [first, count](const xb_element_row &row) {
+        return row.content_index >= first && row.content_index < first + count;
+    });
 }
 
 // What may appear at a position ends with the element that is required there.

@@ -62,6 +62,12 @@ struct event {
     bool has_colons;          // in one of the tag's names
     bool has_declarations;    // of namespaces among the attributes
     bool stable;              // all texts of the tag are in the stack that the reader lends
+    // The end tag follows at once, with nothing but plain text in front of it; it gets no event.
+    bool is_leaf;
+    bool leaf_significant;
+    std::string_view leaf_text;
+    position leaf_text_place;
+    position leaf_end;
     // The text in front of any event; empty CDATA sections are no text.
     std::string_view text;
     bool has_text;
@@ -90,6 +96,10 @@ struct event_source {
     void (*destroy)(void *state) = nullptr;
     // Completes a position that is not older than the views; null when all positions are complete.
     void (*locate)(void *state, position &place) = nullptr;
+    // Lends the octets that come next within an element's content, up to *end and padded with
+    // window_padding octets of 0, and takes back where they were read to. Null where a source cannot.
+    const char *(*lend)(void *state, const char **end) = nullptr;  // null: not now
+    void (*take_back)(void *state, const char *at) = nullptr;
     void *state = nullptr;  // null: no source
 };
 

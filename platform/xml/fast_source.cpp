@@ -10,6 +10,7 @@
 // roads differ in nothing but speed.
 #include "characters.h"
 #include "document_start.h"
+#include "epilog_fault.h"
 #include "event_source.h"
 #include "inv_platform/system_memory.h"
 #include "inv_platform/xml_runtime.h"
@@ -63,6 +64,36 @@ void end_with(fast_source &source, XML_Error error, const char *at)
 {
     const XML_LChar *text = XML_ErrorString(error);
     end_with(source, XB_E_MALFORMED, at, text == nullptr ? "" : text);
+}
+
+// Where the last piece begins that expat would have to see the end of: a CR might be half a line end,
+// one or two brackets might begin the end of a CDATA section.
+const char *last_piece(const window &view, const char *from)
+{
+    const char *at = view.end;
+    if (at > from && at[-1] == '\r')
+        return at - 1;
+    for (int brackets = 0; brackets < 2 && at > from && at[-1] == ']'; ++brackets)
+        --at;
+    return at;
+}
+
+// The document ends too early.
+void end_with_end(fast_source &source, XML_Error error)
+{
+    const window &view = source.lex.view;
+    const char *cut = cut_character(source.lex);
+    const char *at = source.at;
+    bool is_in_data = error == XML_ERROR_UNCLOSED_CDATA_SECTION;
+    if (is_in_data && view.end - at < character_data_opening) {
+        is_in_data = false;
+        error = XML_ERROR_UNCLOSED_TOKEN;
+    }
+    if (is_in_data)
+        at = cut != nullptr ? cut : last_piece(view, at + character_data_opening);
+    else if (error == XML_ERROR_NO_ELEMENTS && view.end > view.octets && view.end[-1] == '\r')
+        at = view.end - 1;
+    end_with(source, cut != nullptr ? XML_ERROR_PARTIAL_CHAR : error, at);
 }
 
 // --- More of the document -------------------------------------------------------------------------
@@ -119,8 +150,7 @@ bool read_token(fast_source &source, Lex lex, XML_Error error_at_end = XML_ERROR
     else if (result == lexed::no_memory)
         end_with(source, XB_E_NO_MEMORY, source.at, {});
     else if (source.where != part::over)
-        end_with(source, error_at_end,
-                 error_at_end == XML_ERROR_UNCLOSED_CDATA_SECTION ? source.lex.view.end : source.at);
+        end_with_end(source, error_at_end);
     return false;
 }
 
@@ -225,6 +255,29 @@ bool gather_character_data(fast_source &source, std::string_view text, const cha
     return true;
 }
 
+// The data of a section that is not well-formed are text up to the mistake.
+void note_character_data_to_fault(fast_source &source)
+{
+    const window &view = source.lex.view;
+    const char *fault = view.octets + (source.ending.place.offset - view.start.offset);
+    const char *data = source.at + character_data_opening;
+    if (source.ending.status != XB_E_MALFORMED || fault < data)
+        return;
+    data = skip_white_space(data);
+    if (data < fault)
+        note_text(source, data, true);
+}
+
+// What stands in front of "]]>" in its line goes with it: expat takes them for one wrong token.
+void forget_text_of_line(fast_source &source)
+{
+    const char *start = source.at;
+    while (start > source.run && start[-1] != '\n')
+        --start;
+    if (source.text_place.offset >= offset_of(source.lex.view, start))
+        source.significant = false;
+}
+
 // "]]>" may not stand in text.
 lexed lex_bracket(lexer &lex, const char *&at)
 {
@@ -263,8 +316,11 @@ bool read_odd_text(fast_source &source)
             [&](const char *&at) {
                 return c == ']' ? lex_bracket(source.lex, at) : lex_character(source.lex, at);
             },
-            after))
+            after)) {
+        if (c == ']')
+            forget_text_of_line(source);
         return false;
+    }
     note_text(source, source.at, !is_white_space(*source.at));
     source.at = after;
     return true;
@@ -299,6 +355,17 @@ bool read_text(fast_source &source)
 
 // --- Tags ----------------------------------------------------------------------------------------
 
+// Joins what has been gathered with what stands in the window.
+void put_gathered_text(fast_source &source, const char *stop, event &out)
+{
+    // A failing append is the failing read of the tag behind it.
+    if (!append_text(source.gathered, out.text)) {
+        end_with(source, XB_E_NO_MEMORY, stop, {});
+        source.gathered.count = 0;
+    }
+    out.text = std::string_view(source.gathered.items, source.gathered.count);
+}
+
 void put_text(fast_source &source, const char *stop, event &out)
 {
     out.has_text = source.has_text;
@@ -307,14 +374,34 @@ void put_text(fast_source &source, const char *stop, event &out)
     out.significant = source.significant;
     out.text_place = source.text_place;
     out.text = std::string_view(source.run, static_cast<size_t>(stop - source.run));
-    if (source.gathered.count == 0)
+    if (source.gathered.count != 0)
+        put_gathered_text(source, stop, out);
+}
+
+void close_element(fast_source &source)
+{
+    if (--source.depth == 0)
+        source.where = part::epilog;
+}
+
+// Most elements hold nothing but plain text: their end is read along with their tag, when it is at hand.
+void look_at_leaf(fast_source &source, event &out)
+{
+    const char *text = source.at;
+    const char *first = is_white_space(*text) ? skip_blanks(text) : text;
+    const char *stop = *first == '<' ? first : skip_text(first);
+    const std::string_view name = out.name;
+    auto available = static_cast<size_t>(source.lex.view.end - stop);
+    if (stop[0] != '<' || stop[1] != '/' || available < name.size() + 3 || stop[2 + name.size()] != '>' ||
+        memcmp(stop + 2, name.data(), name.size()) != 0)
         return;
-    // A failing append is the failing read of the tag behind it.
-    if (!append_text(source.gathered, out.text)) {
-        end_with(source, XB_E_NO_MEMORY, stop, {});
-        source.gathered.count = 0;
-    }
-    out.text = std::string_view(source.gathered.items, source.gathered.count);
+    out.is_leaf = true;
+    out.leaf_text = std::string_view(text, static_cast<size_t>(stop - text));
+    out.leaf_significant = first < stop;
+    out.leaf_text_place = {0, 0, offset_of(source.lex.view, first < stop ? first : text)};
+    out.leaf_end = {0, 0, offset_of(source.lex.view, stop)};
+    source.at = stop + name.size() + 3;
+    close_element(source);
 }
 
 bool read_start_tag(fast_source &source, event &out)
@@ -334,13 +421,10 @@ bool read_start_tag(fast_source &source, event &out)
     source.empty_place = out.place;
     ++source.depth;
     put_text(source, tag, out);
+    out.is_leaf = false;
+    if (!is_empty && source.where != part::over)
+        look_at_leaf(source, out);
     return source.where != part::over;
-}
-
-void close_element(fast_source &source)
-{
-    if (--source.depth == 0)
-        source.where = part::epilog;
 }
 
 bool read_end_tag(fast_source &source, event &out)
@@ -397,10 +481,12 @@ bool skip_exclamation(fast_source &source)
                    source, [&](const char *&at) { return lex_comment(source.lex, at); }, after) &&
                go_on_behind(source, after);
     std::string_view text;
-    return read_aside(
-               source, [&](const char *&at) { return lex_character_data(source.lex, at, text); }, after,
-               XML_ERROR_UNCLOSED_CDATA_SECTION) &&
-           gather_character_data(source, text, after);
+    if (read_aside(
+            source, [&](const char *&at) { return lex_character_data(source.lex, at, text); }, after,
+            XML_ERROR_UNCLOSED_CDATA_SECTION))
+        return gather_character_data(source, text, after);
+    note_character_data_to_fault(source);
+    return false;
 }
 
 // From a tag's end up to the end of the next tag.
@@ -484,6 +570,31 @@ bool read_prolog(fast_source &source, event &out)
     return false;
 }
 
+// Something behind the root element is wrong; from the next octet on expat sees what.
+void end_with_epilog_fault(fast_source &source)
+{
+    const window &view = source.lex.view;
+    position place = {0, 0, offset_of(view, source.at)};
+    locate(source.lex.view, place);
+    epilog_fault fault = {};
+    bool is_found = !open_epilog_fault(fault, place);
+    while (fault.parser != nullptr && !is_found) {
+        std::string_view octets(source.at, static_cast<size_t>(view.end - source.at));
+        is_found = look_for_fault(fault, octets, view.at_end);
+        source.run = source.at = view.end;
+        if (view.at_end || (!is_found && !read_more(source) && source.where == part::over))
+            break;
+    }
+    XML_Error error = fault.parser == nullptr ? XML_ERROR_NO_MEMORY : close_epilog_fault(fault, place);
+    if (source.where == part::over)
+        return;
+    if (error == XML_ERROR_NO_MEMORY)
+        end_with(source, XB_E_NO_MEMORY, source.at, {});
+    else
+        end_with(source, error, source.at);
+    source.ending.place = place;
+}
+
 bool read_epilog(fast_source &source)
 {
     lexed result = lexed::ok;
@@ -491,15 +602,10 @@ bool read_epilog(fast_source &source)
     }
     if (source.where == part::over)
         return false;
-    if (result == lexed::bad)
-        end_with(source, source.lex.fault.error, source.lex.fault.at);
-    else if (result == lexed::need_more)
-        end_with(source, XML_ERROR_UNCLOSED_TOKEN, source.at);
-    else if (source.at < source.lex.view.end)
-        end_with(source, *source.at == '<' ? XML_ERROR_JUNK_AFTER_DOC_ELEMENT : XML_ERROR_INVALID_TOKEN,
-                 source.at);
-    else
+    if (result == lexed::ok && source.at == source.lex.view.end)
         end_with(source, XB_OK, source.at, {});
+    else
+        end_with_epilog_fault(source);
     return false;
 }
 
@@ -553,6 +659,20 @@ void locate_in_window(void *state, position &place)
         locate(source.lex.view, place);
 }
 
+const char *lend_content(void *state, const char **end)
+{
+    fast_source &source = *static_cast<fast_source *>(state);
+    if (source.where != part::content || source.end_is_due || source.other.state != nullptr)
+        return nullptr;
+    *end = source.lex.view.end;
+    return source.at;
+}
+
+void take_content_back(void *state, const char *at)
+{
+    static_cast<fast_source *>(state)->at = at;
+}
+
 void destroy(void *state)
 {
     fast_source *source = static_cast<fast_source *>(state);
@@ -578,7 +698,7 @@ bool create_fast_source(event_source &source, input &in, size_t chunk_size, cons
     made->reader = reader;
     made->chunk_size = chunk_size;
     made->at = made->run = made->lex.view.octets;
-    source = {next_event, destroy, locate_in_window, made};
+    source = {next_event, destroy, locate_in_window, lend_content, take_content_back, made};
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "inv_platform/system_memory.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <new>
@@ -22,16 +23,35 @@ namespace
 
 constexpr size_t alignment = 16;
 constexpr size_t first_chunk_size = 4096;
-constexpr size_t greatest_chunk_size = size_t{1} << 20;
+constexpr size_t greatest_chunk_size = size_t{4} << 20;
+
+// From here on chunks are whole pages of the system's.
+constexpr size_t least_mapped_chunk = size_t{128} << 10;
 
 char *octets_of(heap_chunk *chunk)
 {
     return reinterpret_cast<char *>(chunk) + sizeof(heap_chunk);
 }
 
+// Chunks of the regular sizes only: what a single request has for itself goes back early at times.
+bool is_mapped(size_t capacity)
+{
+    const size_t size = sizeof(heap_chunk) + capacity;
+    return size >= least_mapped_chunk && size <= greatest_chunk_size && std::has_single_bit(size);
+}
+
+void release_chunk(heap_chunk *chunk)
+{
+    if (is_mapped(chunk->capacity))
+        memory::unmap(chunk, sizeof(heap_chunk) + chunk->capacity);
+    else
+        memory::release(chunk);
+}
+
 heap_chunk *new_chunk(size_t capacity)
 {
-    void *block = memory::request(sizeof(heap_chunk) + capacity);
+    const size_t size = sizeof(heap_chunk) + capacity;
+    void *block = is_mapped(capacity) ? memory::map(size) : memory::request(size);
     if (block == nullptr)
         return nullptr;
     return new (block) heap_chunk{nullptr, capacity, 0};
@@ -68,7 +88,7 @@ void release_chunks(heap_chunk *&list)
     while (list != nullptr) {
         heap_chunk *chunk = list;
         list = chunk->older;
-        memory::release(chunk);
+        release_chunk(chunk);
     }
 }
 
@@ -114,7 +134,7 @@ void heap_take_back(heap &from, void *ptr)
     heap_chunk *own = from.own_chunks;
     if (own != nullptr && ptr == octets_of(own)) {
         from.own_chunks = own->older;
-        memory::release(own);
+        release_chunk(own);
         return;
     }
     from.newest->used = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));

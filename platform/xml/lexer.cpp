@@ -4,6 +4,7 @@
 #include "name_characters.h"
 #include "scan.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace inv::xml
@@ -31,7 +32,7 @@ struct utf8_form {
 
 utf8_form form_of(unsigned char lead)
 {
-    if (lead < 0xC2)
+    if (lead < 0xC0)
         return {0, 0, 0};
     if (lead < 0xE0)
         return {0x1F, 2, 0x80};
@@ -103,6 +104,16 @@ lexed fail_at(lexer &lex, const char *at, XML_Error error)
     return lexed::bad;
 }
 
+const char *cut_character(const lexer &lex)
+{
+    const window &view = lex.view;
+    for (const char *at = view.end - std::min(view.end - view.octets, ptrdiff_t{3}); at < view.end; ++at) {
+        if (form_of(static_cast<unsigned char>(*at)).length > view.end - at)
+            return at;
+    }
+    return nullptr;
+}
+
 lexed lex_character(lexer &lex, const char *&at)
 {
     if (!is_beyond_ascii(*at)) {
@@ -120,31 +131,37 @@ lexed lex_character(lexer &lex, const char *&at)
     return result;
 }
 
-lexed lex_name(lexer &lex, const char *&at, bool &has_colon)
+namespace
 {
-    if (is_start_of_name(*at)) {
-        has_colon = has_colon || *at == ':';
-        ++at;
-    } else if (!is_beyond_ascii(*at)) {
+
+lexed lex_name_start(lexer &lex, const char *&at, bool &has_colon)
+{
+    if (is_beyond_ascii(*at))
+        return lex_name_character(lex, at, is_name_start);
+    if (!is_start_of_name(*at))
         return unexpected(lex, at);
-    } else {
-        lexed result = lex_name_character(lex, at, is_name_start);
-        if (result != lexed::ok)
-            return result;
-    }
-    for (;;) {
+    has_colon = has_colon || *at == ':';
+    ++at;
+    return lexed::ok;
+}
+
+}  // namespace
+
+lexed lex_odd_name(lexer &lex, const char *&at, bool at_start, bool &has_colon)
+{
+    lexed result = at_start ? lex_name_start(lex, at, has_colon) : lexed::ok;
+    while (result == lexed::ok) {
         at = skip_name(at);
         if (*at == ':') {
             has_colon = true;
             ++at;
         } else if (is_beyond_ascii(*at)) {
-            lexed result = lex_name_character(lex, at, is_name_character);
-            if (result != lexed::ok)
-                return result;
+            result = lex_name_character(lex, at, is_name_character);
         } else {
             return at == lex.view.end ? lexed::need_more : lexed::ok;
         }
     }
+    return result;
 }
 
 namespace
@@ -269,6 +286,10 @@ lexed lex_instruction(lexer &lex, const char *&at, bool &is_declaration)
 lexed lex_character_data(lexer &lex, const char *&at, std::string_view &text)
 {
     constexpr std::string_view opening = "<![CDATA[";
+    static_assert(opening.size() == character_data_opening);
+    // What is too short for an opening is not wrong yet.
+    if ((at[2] == '[' && !has_octets(lex, at, opening.size())) || (at[2] == '-' && !has_octets(lex, at, 4)))
+        return lexed::need_more;
     for (size_t i = 2; i < opening.size(); ++i) {
         if (at[i] != opening[i])
             return unexpected(lex, at + i);
@@ -279,8 +300,6 @@ lexed lex_character_data(lexer &lex, const char *&at, std::string_view &text)
         lexed result = lex_up_to(lex, at, ']');
         if (result != lexed::ok)
             return result;
-        if (!has_octets(lex, at, 3))
-            return lexed::need_more;
         if (at[1] == ']' && at[2] == '>')
             break;
         ++at;

@@ -6,7 +6,9 @@
 #ifndef PLATFORM_XML_LEXER_H
 #define PLATFORM_XML_LEXER_H
 
+#include "characters.h"
 #include "event_source.h"
+#include "scan.h"
 #include "window.h"
 
 #include <expat.h>
@@ -31,9 +33,6 @@ lexed fail_at(lexer &lex, const char *at, XML_Error error = XML_ERROR_INVALID_TO
 // One character that is markup nowhere: an XML character other than ASCII, or white space.
 lexed lex_character(lexer &lex, const char *&at);
 
-// A name. *has_colon is set when one stands in it.
-lexed lex_name(lexer &lex, const char *&at, bool &has_colon);
-
 struct reference {
     uint32_t character;  // that it stands for; no_character: the reference is well-formed and wrong
     XML_Error error;     // why
@@ -50,6 +49,11 @@ lexed lex_comment(lexer &lex, const char *&at);
 // <?target ... ?>; *is_declaration: the target is the one of XML declarations.
 lexed lex_instruction(lexer &lex, const char *&at, bool &is_declaration);
 
+// Where the character begins that the end of the data cuts, or null.
+const char *cut_character(const lexer &lex);
+
+constexpr ptrdiff_t character_data_opening = 9;  // octets of "<![CDATA["
+
 // <![CDATA[ ... ]]>; the content as it stands goes to *text.
 lexed lex_character_data(lexer &lex, const char *&at, std::string_view &text);
 
@@ -62,15 +66,22 @@ lexed starts_with(const lexer &lex, const char *at, std::string_view wanted, boo
 // Writes a character as UTF-8 and returns where it ends; four octets of room suffice.
 char *put_character(char *to, uint32_t character);
 
-inline bool is_start_of_name(char c)
-{
-    auto folded = static_cast<unsigned char>(c | 0x20);
-    return (folded >= 'a' && folded <= 'z') || c == '_' || c == ':';
-}
-
 inline bool is_beyond_ascii(char c)
 {
     return static_cast<unsigned char>(c) >= 0x80;
+}
+
+// The rest of a name from where it is no longer plain; `at` may still stand at its start.
+lexed lex_odd_name(lexer &lex, const char *&at, bool at_start, bool &has_colon);
+
+// A name. has_colon is set when one stands in it.
+inline lexed lex_name(lexer &lex, const char *&at, bool &has_colon)
+{
+    if (!is_start_of_name(*at) || *at == ':')
+        return lex_odd_name(lex, at, true, has_colon);
+    at = skip_name(at + 1);
+    bool ends = *at != ':' && !is_beyond_ascii(*at) && *at != '\0';
+    return ends ? lexed::ok : lex_odd_name(lex, at, false, has_colon);
 }
 
 }  // namespace inv::xml

@@ -44,6 +44,7 @@ bool scope_declare(namespace_scope &scope, std::string_view prefix, std::string_
     if (!append(scope.bindings, namespace_binding{prefix, uri, hash_of(prefix), 0}))
         return false;
     link_binding(scope, scope.bindings.count - 1);
+    scope.default_count += prefix.empty();
     return true;
 }
 
@@ -52,13 +53,16 @@ void scope_leave(namespace_scope &scope, size_t binding_count)
     while (scope.bindings.count > binding_count) {
         const namespace_binding &binding = scope.bindings.items[--scope.bindings.count];
         scope.buckets.items[binding.hash & (scope.buckets.count - 1)] = binding.shadowed;
+        scope.default_count -= binding.prefix.empty();
     }
 }
 
 void scope_enter_again(namespace_scope &scope, size_t binding_count)
 {
-    while (scope.bindings.count < binding_count)
+    while (scope.bindings.count < binding_count) {
+        scope.default_count += scope.bindings.items[scope.bindings.count].prefix.empty();
         link_binding(scope, scope.bindings.count++);
+    }
 }
 
 bool scope_find(const namespace_scope &scope, std::string_view prefix, std::string_view &uri)
@@ -86,6 +90,7 @@ void scope_release(namespace_scope &scope)
 {
     release_array(scope.bindings);
     release_array(scope.buckets);
+    scope.default_count = 0;
 }
 
 split_name split_qualified_name(std::string_view name)

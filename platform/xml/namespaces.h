@@ -21,11 +21,18 @@ struct namespace_binding {
 // where they are until others are declared, so that a scope can be entered again.
 struct namespace_scope {
     growing_array<namespace_binding> bindings;
+    size_t default_count = 0;       // of the bindings in scope that are a default namespace's
     growing_array<size_t> buckets;  // index plus 1 of the newest binding; a power of two of them
 };
 
 // False when memory is out.
 bool scope_declare(namespace_scope &scope, std::string_view prefix, std::string_view uri);
+
+// Whether any declaration of the default namespace is in scope, one that takes it back included.
+inline bool has_default_namespace(const namespace_scope &scope)
+{
+    return scope.default_count > 0;
+}
 
 void scope_leave(namespace_scope &scope, size_t binding_count);
 void scope_enter_again(namespace_scope &scope, size_t binding_count);

@@ -28,19 +28,13 @@
 // within a tag are worked out from the tag's text only when an error is recorded.
 #include "reader.h"
 
-#include "context.h"
+#include "reading.h"
 
 namespace inv::xml
 {
 
 namespace
 {
-
-void forget_text(reader &r)
-{
-    r.text = {};
-    r.has_text = r.text_significant = r.text_taken = false;
-}
 
 std::string_view name_of_open_element(void *owner)
 {
@@ -52,8 +46,10 @@ std::string_view name_of_open_element(void *owner)
 bool keep_what_is_used(void *owner)
 {
     reader &r = *static_cast<reader *>(owner);
+    // In the order of the document, so that lines are counted once.
+    bool kept = keep_open_elements(r.tags, r.source);
     complete(r.source, r.place);
-    return keep_open_elements(r.tags, r.source);
+    return kept;
 }
 
 int32_t fail(xb_context_state &state, int32_t status, position place, std::string_view reason)
@@ -63,6 +59,30 @@ int32_t fail(xb_context_state &state, int32_t status, position place, std::strin
     r.failure_place = place;
     r.failure_reason = reason.empty() ? nullptr : heap_copy_text(state.memory, reason);
     return status;
+}
+
+void take_leaf(reader &r, const event &next)
+{
+    r.leaf = next.is_leaf ? leaf_state::ahead : leaf_state::none;
+    if (!next.is_leaf)
+        return;
+    r.leaf_text = next.leaf_text;
+    r.leaf_significant = next.leaf_significant;
+    r.leaf_text_place = next.leaf_text_place;
+    r.leaf_end = next.leaf_end;
+}
+
+// The end tag of the leaf that is open becomes the event ahead.
+void close_leaf(reader &r)
+{
+    r.leaf = leaf_state::none;
+    r.ahead = true;
+    r.ahead_kind = event_kind::end_tag;
+    r.ahead_place = r.leaf_end;
+    r.text = r.leaf_text;
+    r.has_text = !r.leaf_text.empty();
+    r.text_significant = r.leaf_significant;
+    r.text_place = r.leaf_text_place;
 }
 
 int32_t take_event(xb_context_state &state, const event &next)
@@ -80,6 +100,7 @@ int32_t take_event(xb_context_state &state, const event &next)
         if (status != XB_OK)
             return fail(state, status, next.place,
                         status == XB_E_UNDECLARED_PREFIX ? next.name : std::string_view());
+        take_leaf(r, next);
     }
     r.ahead = true;
     r.ahead_kind = next.kind;
@@ -98,63 +119,44 @@ void reader_close(reader &r)
     r.selected = no_attribute;
 }
 
-int32_t read_ahead(xb_context_state &state)
+int32_t read_next(xb_context_state &state)
 {
     reader &r = state.reader;
-    if (r.ahead || r.failure != XB_OK)
+    if (r.failure != XB_OK)
         return r.failure;
     if (r.source.state == nullptr)
         return XB_E_BAD_STATE;
     // What is stacked next takes the slot of the element that was closed last.
     r.can_push_back = false;
+    if (r.leaf == leaf_state::open) {
+        close_leaf(r);
+        return XB_OK;
+    }
     cut_to_open_elements(r.tags);
     event next;
     r.source.next(r.source.state, next);
     return take_event(state, next);
 }
 
-int32_t read_event(xb_context_state &state)
+int32_t hand_over_failure(xb_context_state &state, int32_t status)
 {
     reader &r = state.reader;
-    int32_t status = read_ahead(state);
-    r.selected = no_attribute;
-    if (status == XB_OK) {
-        end_travel(state.errors);
-        r.place = r.ahead_place;
-    } else if (status == r.failure) {
-        r.place = r.failure_place;
-        if (r.failure_reason != nullptr)
-            add_parameter(state, r.failure_reason);
-        r.failure_reason = nullptr;
-    }
+    if (status != r.failure)
+        return status;
+    r.place = r.failure_place;
+    if (r.failure_reason != nullptr)
+        add_parameter(state, r.failure_reason);
+    r.failure_reason = nullptr;
     return status;
 }
 
-int32_t read_tag(xb_context_state &state)
+int32_t refuse_text(xb_context_state &state)
 {
     reader &r = state.reader;
-    read_ahead(state);
-    // Text comes first in the document, so it is complained about before what follows it.
-    if (r.text_significant && !r.text_taken) {
-        r.selected = no_attribute;
-        r.place = r.text_place;
-        end_travel(state.errors);
-        return XB_E_TEXT_UNEXPECTED;
-    }
-    return read_event(state);
-}
-
-void consume_tag(reader &r)
-{
-    r.ahead = false;
-    r.last_kind = r.ahead_kind;
-    r.can_push_back = true;
-    r.group_mode = false;
-    forget_text(r);
-    if (r.ahead_kind == event_kind::start_tag)
-        enter_element(r.tags);
-    else
-        leave_element(r.tags);
+    r.selected = no_attribute;
+    r.place = r.text_place;
+    end_travel(state.errors);
+    return XB_E_TEXT_UNEXPECTED;
 }
 
 position place_of_selected(reader &r)
@@ -201,11 +203,13 @@ void rtXmlpMarkLastEventActive(xb_context *ctx)
         return;
     r.can_push_back = false;
     r.selected = no_attribute;
-    forget_text(r);
-    if (r.last_kind == event_kind::start_tag)
+    r.has_text = r.text_significant = r.text_taken = false;
+    if (r.last_kind == event_kind::start_tag) {
+        r.leaf = r.leaf == leaf_state::open ? leaf_state::ahead : leaf_state::none;
         leave_element(r.tags);
-    else
+    } else {
         enter_element(r.tags);
+    }
     r.ahead = true;
     r.ahead_kind = r.last_kind;
 }

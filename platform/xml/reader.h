@@ -10,6 +10,12 @@ namespace inv::xml
 
 constexpr size_t no_attribute = SIZE_MAX;
 
+enum class leaf_state : uint8_t {
+    none,
+    ahead,  // the start tag ahead is that of a leaf
+    open    // it was taken: the end tag is what comes next
+};
+
 struct reader {
     event_source source;
     tag_stack tags;
@@ -22,6 +28,13 @@ struct reader {
     // The last tag that was read, for a push-back.
     bool can_push_back;
     event_kind last_kind;
+
+    // The end of the element whose start tag is ahead or was taken last (see event::is_leaf).
+    leaf_state leaf;
+    bool leaf_significant;
+    std::string_view leaf_text;
+    position leaf_text_place;
+    position leaf_end;
 
     // The text between the last tag and the event read ahead: the source's until it reads on.
     std::string_view text;
@@ -41,20 +54,6 @@ struct reader {
 
 // Gives back what the reader holds.
 void reader_close(reader &r);
-
-// Reads the next event ahead, unless one is ahead already. Returns the reader's failure, if any, without
-// leaving a trace of it.
-int32_t read_ahead(xb_context_state &state);
-
-// The same for a caller that is about to return the failure: leaves its place and parameter for
-// the error record and makes the event read ahead the present place.
-int32_t read_event(xb_context_state &state);
-
-// The same where no text may stand: XB_E_TEXT_UNEXPECTED for text other than white space.
-int32_t read_tag(xb_context_state &state);
-
-// Takes the tag read ahead: opens its element, or closes the current one.
-void consume_tag(reader &r);
 
 // Where an error of this status belongs now.
 position error_place(xb_context_state &state, int32_t status);

@@ -161,7 +161,7 @@ lexed find_repeated(const attribute *items, size_t count, size_t &repeated)
 
 // White space becomes blanks, line ends one blank each, references what they stand for; none of this
 // is longer than what it replaces.
-lexed rewrite_value(lexer &lex, text_stack &texts, attribute &item)
+lexed rewrite_value(lexer &lex, const char *tag, text_stack &texts, attribute &item)
 {
     char *made = push_octets(texts, item.value_length);
     if (made == nullptr)
@@ -173,8 +173,9 @@ lexed rewrite_value(lexer &lex, text_stack &texts, attribute &item)
             const char *start = at;
             reference found;
             lex_reference(lex, at, found);
+            // As on the other road, an unknown entity is the tag's fault.
             if (found.character == no_character)
-                return fail_at(lex, start, found.error);
+                return fail_at(lex, found.error == XML_ERROR_UNDEFINED_ENTITY ? tag : start, found.error);
             to = put_character(to, found.character);
         } else if (is_white_space(*at)) {
             at += at[0] == '\r' && at[1] == '\n' ? 2 : 1;
@@ -190,7 +191,7 @@ lexed rewrite_value(lexer &lex, text_stack &texts, attribute &item)
     return lexed::ok;
 }
 
-lexed finish_attributes(lexer &lex, text_stack &texts, attribute *items, size_t count,
+lexed finish_attributes(lexer &lex, const char *tag, text_stack &texts, attribute *items, size_t count,
                         const tag_traits &traits)
 {
     size_t repeated = count;
@@ -200,7 +201,7 @@ lexed finish_attributes(lexer &lex, text_stack &texts, attribute *items, size_t 
             return result;
     }
     for (size_t i = 0; traits.has_rewrites && i < repeated; ++i) {
-        lexed result = items[i].made_value ? rewrite_value(lex, texts, items[i]) : lexed::ok;
+        lexed result = items[i].made_value ? rewrite_value(lex, tag, texts, items[i]) : lexed::ok;
         if (result != lexed::ok)
             return result;
     }
@@ -225,7 +226,7 @@ lexed lex_start_tag(lexer &lex, const char *&at, const event_reader &reader, eve
     const size_t count = attributes.count - before;
     bool is_plain = !traits.has_rewrites && !traits.may_repeat && count <= few_attributes;
     if (result == lexed::ok && !is_plain)
-        result = finish_attributes(lex, *reader.texts, attributes.items + before, count, traits);
+        result = finish_attributes(lex, tag, *reader.texts, attributes.items + before, count, traits);
     if (result != lexed::ok) {
         attributes.count = before;
         return result;

@@ -109,7 +109,7 @@ int32_t stack_tag(tag_stack &tags, const event &start)
     tag.binding_end = tags.scope.bindings.count;
     tag.made_end = mark_of(tags.made_texts);
     tag.kept_end = mark_of(tags.kept_texts);
-    if (start.has_colons || tag.binding_end > 0)
+    if (start.has_colons || has_default_namespace(tags.scope))
         classify_names(tags, tag);
     scope_leave(tags.scope, tag.binding_begin);
     return tag.kind == name_kind::undeclared_prefix ? XB_E_UNDECLARED_PREFIX : XB_OK;

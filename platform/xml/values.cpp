@@ -1,8 +1,10 @@
 #include "values.h"
 
 #include "characters.h"
-#include "context.h"
+#include "reading.h"
+#include "value_parsers.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -28,7 +30,7 @@ int32_t take_value(xb_context_state &state, std::string_view &text)
         return XB_E_TEXT_UNEXPECTED;
     r.text_taken = true;
     r.place = r.has_text ? r.text_place : tag.place;
-    text = r.text;
+    text = r.has_text ? r.text : std::string_view();
     return XB_OK;
 }
 
@@ -36,46 +38,6 @@ namespace
 {
 
 constexpr std::string_view digits = "0123456789";
-
-struct signed_text {
-    bool negative;
-    std::string_view magnitude;
-};
-
-signed_text split_sign(std::string_view text)
-{
-    bool negative = text.starts_with('-');
-    if (negative || text.starts_with('+'))
-        text.remove_prefix(1);
-    return {negative, text};
-}
-
-// The magnitude is worked out with one bit more than the type has, so that its least value fits.
-template <typename Integer>
-int32_t parse_integer(std::string_view text, Integer &value)
-{
-    auto [negative, magnitude] = split_sign(collapsed(text));
-    if (magnitude.empty() || magnitude.find_first_not_of(digits) != std::string_view::npos)
-        return XB_E_BAD_INTEGER;
-    uint64_t number = 0;
-    auto parsed = std::from_chars(magnitude.data(), magnitude.data() + magnitude.size(), number);
-    auto greatest = static_cast<uint64_t>(std::numeric_limits<Integer>::max());
-    uint64_t limit = !negative ? greatest : std::is_signed_v<Integer> ? greatest + 1 : 0;
-    if (parsed.ec != std::errc() || number > limit)
-        return XB_E_OUT_OF_RANGE;
-    value = static_cast<Integer>(negative ? 0 - number : number);
-    return XB_OK;
-}
-
-int32_t parse_boolean(std::string_view text, uint8_t &value)
-{
-    text = collapsed(text);
-    bool is_true = text == "true" || text == "1";
-    if (!is_true && text != "false" && text != "0")
-        return XB_E_BAD_BOOLEAN;
-    value = is_true ? 1 : 0;
-    return XB_OK;
-}
 
 bool is_decimal(std::string_view magnitude)
 {
@@ -120,15 +82,20 @@ int32_t decode(xb_context *ctx, Value *value, int32_t (*parse)(std::string_view,
     return status;
 }
 
+constexpr std::array<int8_t, 256> hex_digits = [] {
+    std::array<int8_t, 256> table = {};
+    table.fill(-1);
+    for (int8_t i = 0; i < 10; ++i)
+        table[static_cast<size_t>('0' + i)] = i;
+    for (int8_t i = 0; i < 6; ++i)
+        table[static_cast<size_t>('a' + i)] = table[static_cast<size_t>('A' + i)] =
+            static_cast<int8_t>(10 + i);
+    return table;
+}();
+
 int hex_digit(char c)
 {
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    return -1;
+    return hex_digits[static_cast<unsigned char>(c)];
 }
 
 bool is_hexadecimal(std::string_view text)
@@ -213,6 +180,17 @@ int32_t rtXmlpDecUInt(xb_context *ctx, uint32_t *value)
 int32_t rtXmlpDecInt64(xb_context *ctx, int64_t *value)
 {
     return decode(ctx, value, parse_integer<int64_t>);
+}
+
+int32_t rtXmlpDecView(xb_context *ctx, const char **text, size_t *length)
+{
+    std::string_view value;
+    int32_t status = take_value(*ctx->state, value);
+    if (status != XB_OK)
+        return status;
+    *text = value.data() == nullptr ? "" : value.data();
+    *length = value.size();
+    return XB_OK;
 }
 
 int32_t rtXmlpDecBool(xb_context *ctx, uint8_t *value)

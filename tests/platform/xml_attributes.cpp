@@ -5,7 +5,7 @@
 namespace
 {
 
-const xb_attribute_row table[] = {{"name", 4}, {"type", 4}};
+const xb_attribute_row table[] = {{"name", 4, {}}, {"type", 4, {}}};
 constexpr const char *xsi = "xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance'";
 
 int32_t look_up(xml_document &document, int32_t index, int32_t *namespace_index)

@@ -4,12 +4,13 @@
 
 #include <cstring>
 
-xml_document::xml_document(std::string_view document, size_t chunk_size) : text(document)
+xml_document::xml_document(std::string_view document, size_t chunk_size, bool slow_road) : text(document)
 {
     if (rtXmlInitContext(&ctx) != XB_OK)
         abort();
     if (chunk_size != 0)
         ctx.state->chunk_size = chunk_size;
+    ctx.state->slow_road = slow_road;
     rtxStreamMemoryCreateReader(&ctx, text.data(), text.size());
     if (rtXmlpCreateReader(&ctx) != XB_OK)
         abort();
@@ -33,7 +34,7 @@ element_table::element_table(std::initializer_list<const char *> names)
 {
     int32_t index = 0;
     for (const char *name : names) {
-        rows.push_back({name, static_cast<uint16_t>(strlen(name)), index});
+        rows.push_back({name, static_cast<uint16_t>(strlen(name)), index, {}});
         sequence.push_back({index, static_cast<int32_t>(names.size()) - index, -1});
         ++index;
     }

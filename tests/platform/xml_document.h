@@ -13,8 +13,9 @@ struct xml_document {
     xb_context ctx = {};
     std::string text;
 
-    // Opens the text and creates the reader. chunk_size 0: the usual one.
-    explicit xml_document(std::string_view document, size_t chunk_size = 0);
+    // Opens the text and creates the reader. chunk_size 0: the usual one. slow_road: by way of expat,
+    // whatever the document.
+    explicit xml_document(std::string_view document, size_t chunk_size = 0, bool slow_road = false);
     // Further reads start tags, one for each name, from the root on.
     xml_document(std::string_view document, std::initializer_list<const char *> path);
     xml_document(const xml_document &) = delete;

@@ -16,9 +16,9 @@ struct outcome {
     bool operator==(const outcome &) const = default;
 };
 
-outcome read_whole(std::string_view text, size_t chunk_size = 0)
+outcome read_whole(std::string_view text, size_t chunk_size = 0, bool slow_road = false)
 {
-    xml_document document(text, chunk_size);
+    xml_document document(text, chunk_size, slow_road);
     char *content = nullptr;
     int32_t status = enter(document, "r");
     if (status == XB_OK)
@@ -330,8 +330,11 @@ TEST(XmlDocuments, read_the_same_in_chunks_of_any_size)
     };
     for (const std::string &text : documents) {
         outcome expected = read_whole(text);
-        for (size_t chunk_size : {1U, 2U, 3U, 7U, 64U, 1000U, 65536U})
-            EXPECT_EQ(read_whole(text, chunk_size), expected) << text.substr(0, 60) << " by " << chunk_size;
+        for (bool slow_road : {false, true}) {
+            for (size_t chunk_size : {1U, 2U, 3U, 7U, 64U, 1000U, 65536U})
+                EXPECT_EQ(read_whole(text, chunk_size, slow_road), expected)
+                    << text.substr(0, 60) << " by " << chunk_size;
+        }
     }
 }
 
@@ -341,7 +344,7 @@ TEST(XmlDocuments, more_elements_than_the_queue_holds_arrive_in_order)
     for (int i = 0; i < 20000; ++i)
         text += "<v>" + std::to_string(i) + "</v>";
     for (size_t chunk_size : {size_t{100}, size_t{1} << 20}) {
-        xml_document document(text + "</r>", chunk_size);
+        xml_document document(text + "</r>", chunk_size, true);
         enter(document, "r");
         element_table table({"v"});
         for (int32_t i = 0; i < 20000; ++i) {
@@ -359,6 +362,7 @@ TEST(XmlDocuments, one_long_token_costs_no_more_than_linear_time)
 {
     std::string text = "<r a='" + std::string(20U << 20, 'x') + "'/>";
     EXPECT_EQ(read_whole(text, 64).status, XB_OK);
+    EXPECT_EQ(read_whole(text, 64, true).status, XB_OK);
 }
 
 }  // namespace

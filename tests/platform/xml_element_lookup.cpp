@@ -6,7 +6,8 @@ namespace
 {
 
 // One required element followed by three optional ones.
-const xb_element_row rows[] = {{"first", 5, 0}, {"second", 6, 1}, {"third", 5, 2}, {"fourth", 6, 3}};
+const xb_element_row rows[] = {
+    {"first", 5, 0, {}}, {"second", 6, 1, {}}, {"third", 5, 2, {}}, {"fourth", 6, 3, {}}};
 const xb_sequence_row sequence[] = {{0, 1, -1}, {1, 3, -1}, {2, 2, -1}, {3, 1, -1}};
 
 int32_t next_at(xml_document &document, int32_t position, bool group = false)
@@ -89,7 +90,7 @@ TEST(XmlElementLookup, in_group_mode_a_required_element_is_still_required)
 
 TEST(XmlElementLookup, rows_of_one_name_are_told_apart_by_the_position)
 {
-    const xb_element_row table[] = {{"a", 1, 0}, {"b", 1, 1}, {"a", 1, 2}};
+    const xb_element_row table[] = {{"a", 1, 0, {}}, {"b", 1, 1, {}}, {"a", 1, 2, {}}};
     const xb_sequence_row positions[] = {{0, 3, -1}, {1, 2, -1}, {2, 1, -1}};
     xml_document document("<r><a/><a/></r>", {"r"});
     EXPECT_EQ(rtXmlpGetNextSeqElemID(&document.ctx, table, 3, positions, 0, -1, false), 0);
@@ -99,7 +100,7 @@ TEST(XmlElementLookup, rows_of_one_name_are_told_apart_by_the_position)
 
 TEST(XmlElementLookup, several_names_may_yield_one_index)
 {
-    const xb_element_row table[] = {{"a", 1, 0}, {"b", 1, 0}, {"x", 1, 1}};
+    const xb_element_row table[] = {{"a", 1, 0, {}}, {"b", 1, 0, {}}, {"x", 1, 1, {}}};
     const xb_sequence_row positions[] = {{0, 2, -1}, {1, 1, -1}};
     xml_document document("<r><b/></r>", {"r"});
     EXPECT_EQ(rtXmlpGetNextSeqElemID(&document.ctx, table, 3, positions, 0, 1, false), 0);

@@ -264,7 +264,7 @@ TEST(XmlErrors, an_attribute_that_the_document_type_gives_is_placed_at_its_tag)
 
 TEST(XmlErrors, a_missing_element_is_placed_at_the_tag_that_stands_there_instead)
 {
-    const xb_element_row row = {"a", 1, 0};
+    const xb_element_row row = {"a", 1, 0, {}};
     const xb_sequence_row sequence = {0, 1, -1};
     const place_case cases[] = {{"<r>\n</r>", "2:1", 4}, {"<r>\n <b/></r>", "2:2", 5}, {"\n<r/>", "2:1", 1}};
     for (const place_case &c : cases) {

@@ -115,8 +115,9 @@ std::string write_decoders_source(const schema &s)
     std::string text = heading() +
                        "#include \"OrvelianInventorySchemaDec.h\"\n\n#include \"decode/engine.h\"\n"
                        "#include \"decode/tables.h\"\n#include \"inventory_DerivationsDec.h\"\n\n"
-                       "using namespace inv::decode;\n\nnamespace\n{\n\n" +
-                       write_type_tables(s) + "}  // namespace\n\n";
+                       "using namespace inv::decode;\n\n" +
+                       token_declarations(s) + "namespace\n{\n\n" + write_type_tables(s) +
+                       "}  // namespace\n\n";
     for (const complex_type &type : s.types) {
         text += type_decoder(type.name);
         if (has_extension(type))

@@ -79,18 +79,21 @@ std::string enum_rows(const enumeration &e)
                            ".inverse_index = " + std::to_string(position[i])});
     }
     return text + "};\n" +
+           wrapped("", "    ", "constexpr auto " + e.name + "_links = token_links(" + e.name + "_rows);") +
+           "}  // namespace\n\n" +
            wrapped("", "    ",
-                   "constexpr enumeration " + e.name + "_tokens = {.rows = " + e.name +
-                       "_rows, .count = " + std::to_string(order.size()) + "};") +
-           "\n";
+                   "constexpr enumeration inv::decode::tokens::" + e.name + " = {.rows = " + e.name +
+                       "_rows, .links = " + e.name +
+                       "_links.data(), .count = " + std::to_string(order.size()) + "};") +
+           "\nnamespace\n{\n\n";
 }
 
 std::string converters(const enumeration &e)
 {
     return function("int32_t " + e.name + "_ToEnum(const char *text, int32_t length, uint32_t *code)",
-                    {"return find_code(" + e.name + "_tokens, text, length, code);"}) +
+                    {"return find_code(tokens::" + e.name + ", text, length, code);"}) +
            function("const char *" + e.name + "_ToString(uint32_t code)",
-                    {"return find_token(" + e.name + "_tokens, code);"});
+                    {"return find_token(tokens::" + e.name + ", code);"});
 }
 
 std::string initial_value(const schema &s, const item &i)
@@ -184,8 +187,9 @@ std::string write_records_header(const schema &s)
 std::string write_records_source(const schema &s)
 {
     std::string text = heading() +
-                       "#include \"OrvelianInventorySchema.h\"\n\n#include \"decode/engine.h\"\n\n"
-                       "using namespace inv::decode;\n\nnamespace\n{\n\n";
+                       "#include \"OrvelianInventorySchema.h\"\n\n#include \"decode/engine.h\"\n"
+                       "#include \"decode/name_links.h\"\n\nusing namespace inv::decode;\n\n" +
+                       token_declarations(s) + "namespace\n{\n\n";
     for (const enumeration &e : s.enumerations)
         text += enum_rows(e);
     for (const complex_type &type : s.types) {

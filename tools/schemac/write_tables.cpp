@@ -76,6 +76,8 @@ std::string item_row(const home &h, const item &i)
         of_list.insert(of_list.begin() + (of_list.empty() ? 0 : 2),
                        ".decode = child<XmlDT_" + i.type + suffix + ">");
     fields.insert(fields.end(), of_list.begin(), of_list.end());
+    if (i.kind == value_kind::enumeration && !is_list(i))
+        fields.push_back(".tokens = &tokens::" + i.type);
     return table_row(fields);
 }
 
@@ -95,7 +97,8 @@ std::string computed_table(const std::string &name, const std::string &expressio
 
 std::string sequence_table(const std::string &name)
 {
-    return computed_table(name + "_sequence", "sequence_rows(" + name + "_items)");
+    return computed_table(name + "_sequence", "sequence_rows(" + name + "_items)") +
+           computed_table(name + "_values", "plain_rows(" + name + "_items)");
 }
 
 // The name of the type whose attribute table this one uses: its own or the nearest base's.
@@ -119,7 +122,8 @@ std::string attribute_tables(const schema &s, const complex_type &type)
         text +=
             computed_table(type.name + "_attributes", "joined(" + inherited + "_attributes, " + own + ")");
     return text +
-           computed_table(type.name + "_attribute_names", "attribute_rows(" + type.name + "_attributes)");
+           computed_table(type.name + "_attribute_names", "attribute_rows(" + type.name + "_attributes)") +
+           computed_table(type.name + "_attribute_values", "plain_rows(" + type.name + "_attributes)");
 }
 
 std::string group_row(const std::string &name, const std::string &field, occurrence occurs, const home &h)
@@ -177,7 +181,8 @@ std::string description(const std::string &name, uint32_t step, const std::vecto
 
 std::string content_field(const std::string &name)
 {
-    return ".content = content_of(" + name + "_items, " + name + "_sequence, " + name + "_elements)";
+    return ".content = content_of(" + name + "_items, " + name + "_sequence, " + name + "_elements, " + name +
+           "_values)";
 }
 
 std::string extension_tables(const schema &s, const complex_type &type)
@@ -201,7 +206,7 @@ std::string type_tables(const schema &s, const complex_type &type)
     const std::string owner = attribute_owner(s, type);
     if (!owner.empty())
         rest.push_back(".attributes = attributes_of(" + owner + "_attributes, " + owner +
-                       "_attribute_names)");
+                       "_attribute_names, " + owner + "_attribute_values)");
     if (!type.base.empty() || !type.elements.empty())
         rest.push_back(content_field(type.name));
     return extension_tables(s, type) + attribute_tables(s, type) + content_tables(s, type) +
@@ -219,6 +224,14 @@ uint32_t first_step_of(const schema &s, const std::string &type, bool is_extensi
         number += has_extension(t) ? 2 : 1;
     }
     return 1000 * number;
+}
+
+std::string token_declarations(const schema &s)
+{
+    std::string text = "namespace inv::decode::tokens\n{\n\n";
+    for (const enumeration &e : s.enumerations)
+        text += "extern const enumeration " + e.name + ";\n";
+    return text + "\n}  // namespace inv::decode::tokens\n\n";
 }
 
 std::string write_type_tables(const schema &s)

@@ -16,6 +16,9 @@ std::string write_decoders_header(const schema &s);
 std::string write_decoders_source(const schema &s);
 
 // Tables of the decoders, for the head of their source. Steps number the failures.
+// Declares the enumerations' token tables, which the two source files share.
+std::string token_declarations(const schema &s);
+
 std::string write_type_tables(const schema &s);
 uint32_t first_step_of(const schema &s, const std::string &type, bool is_extension);
 

@@ -58,12 +58,23 @@ enum xb_status {
 /* Greatest number of elements open at once; the element beyond it fails with XB_E_DEPTH. */
 #define XB_MAX_DEPTH 128
 
+/* How a name is found in its table without comparing it with every row: rows whose hashes fall into
+ * the same bucket are chained, in table order. Bucket hash * row_count >> 32 begins with the row that
+ * the bucket's own row names. A table with hash 0 in its first row is searched row by
+ * row; one with links is passed as a whole, or a single row of it. */
+typedef struct xb_name_link {
+    uint32_t hash;  /* inv::name_hash() of the row's name (inv_platform/name_hash.h), never 0; or 0 */
+    uint16_t first; /* row number plus 1 that the bucket with this row's number begins with; 0: none */
+    uint16_t next;  /* row number plus 1 of the next row in this row's chain; 0: none */
+} xb_name_link;
+
 /* One row of an element table. Rows are in schema order; several rows may carry the same name
  * with different indexes (a lookup takes the first whose index is allowed at its position). */
 typedef struct xb_element_row {
     const char *name;      /* local name; elements of inventory documents have no namespace */
     uint16_t name_length;  /* octets of name */
     int32_t content_index; /* what a match on this name yields */
+    xb_name_link link;
 } xb_element_row;
 
 /* What may appear at one content position: indexes first .. first + count - 1. */
@@ -77,6 +88,7 @@ typedef struct xb_sequence_row {
 typedef struct xb_attribute_row {
     const char *name;
     uint16_t name_length;
+    xb_name_link link;
 } xb_attribute_row;
 
 /* One row of a type-name table (xsi:type); the index is the row number. */
@@ -92,6 +104,37 @@ typedef struct xb_enum_row {
     uint16_t token_length;
     uint16_t inverse_index; /* row p holds the position of the row whose code is p */
 } xb_enum_row;
+
+/* An enumeration: its rows and, for each, how its token is found by hash. */
+typedef struct xb_tokens {
+    const xb_enum_row *rows;
+    const xb_name_link *links;
+    uint32_t count;
+} xb_tokens;
+
+/* What the short ways (rtXmlpDecPlainElements(), rtXmlpDecPlainAttributes()) can decode by themselves. */
+enum xb_plain_kind {
+    XB_PLAIN_NONE, /* nothing: left to the caller */
+    XB_PLAIN_INT8,
+    XB_PLAIN_UINT8,
+    XB_PLAIN_INT16,
+    XB_PLAIN_UINT16,
+    XB_PLAIN_INT32,
+    XB_PLAIN_UINT32,
+    XB_PLAIN_INT64,
+    XB_PLAIN_BOOLEAN,
+    XB_PLAIN_TEXT, /* const char *, as rtXmlpDecXmlStr() */
+    XB_PLAIN_TOKEN /* uint32_t code of a token */
+};
+
+/* Where a plain value goes; row n belongs to content index n, or to attribute n. */
+typedef struct xb_plain_row {
+    const xb_tokens *tokens; /* of XB_PLAIN_TOKEN, else null */
+    uint32_t offset;         /* of the value in the record */
+    uint32_t present_offset; /* of the octet with its presence bit in the record */
+    uint8_t present_mask;    /* that bit; 0: it has none */
+    uint8_t kind;            /* xb_plain_kind */
+} xb_plain_row;
 
 /* A namespace declaration as rtXmlpGetXmlnsAttrs() lists it; both texts in the context's heap. */
 typedef struct xb_xmlns {
@@ -257,6 +300,9 @@ int32_t rtXmlpDecUInt16(xb_context *ctx, uint16_t *value);
 int32_t rtXmlpDecInt(xb_context *ctx, int32_t *value);
 int32_t rtXmlpDecUInt(xb_context *ctx, uint32_t *value);
 int32_t rtXmlpDecInt64(xb_context *ctx, int64_t *value);
+/* The value as it stands, without a copy: *text has *length octets and no NUL, and is valid until the
+ * next read. */
+int32_t rtXmlpDecView(xb_context *ctx, const char **text, size_t *length);
 /* true, false, 1 or 0 (XB_E_BAD_BOOLEAN); stores 1 or 0. */
 int32_t rtXmlpDecBool(xb_context *ctx, uint8_t *value);
 /* A decimal number without exponent (XB_E_BAD_DECIMAL). Beyond the greatest double:
@@ -276,6 +322,24 @@ int32_t rtXmlpDecDynHexStr(xb_context *ctx, xb_octets *octets);
  * written anew from the events: without comments and processing instructions, with character data
  * escaped, every element with two tags. */
 int32_t rtXmlpDecAny(xb_context *ctx, char **text);
+
+/* --- Short ways -------------------------------------------------------------------------- */
+
+/* Decodes what comes next in the current element for as long as it is plain: elements of the table
+ * without attributes that hold a valid value of their kind, each at or behind the position that the
+ * one before has left (see rtXmlpGetNextSeqElemID()). Returns the position then reached, `position`
+ * itself when nothing was plain; the first element that is not stays unread. Never fails and never
+ * records anything: whatever is odd, or wrong, is left to the long way, and so is everything in
+ * contexts whose reader cannot look that far ahead. `plain` has position_count rows. */
+int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int32_t row_count,
+                               const xb_sequence_row *sequence, const xb_plain_row *plain, int32_t position,
+                               int32_t position_count, void *record);
+
+/* The same for the current tag's attributes from `index` on (document order). Returns the index of
+ * the first attribute that was not decoded, the number of attributes when all were. Bit n of *seen
+ * is set for attribute n of the table. */
+int32_t rtXmlpDecPlainAttributes(xb_context *ctx, const xb_attribute_row *table, int32_t row_count,
+                                 const xb_plain_row *plain, int32_t index, void *record, uint64_t *seen);
 
 /* Binary search of a sorted enumeration table; lengths are compared exactly. Returns the row or
  * XB_E_UNKNOWN_TOKEN. A null text is not found. Needs no context. */

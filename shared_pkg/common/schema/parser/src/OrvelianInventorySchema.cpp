@@ -2,8 +2,61 @@
 #include "OrvelianInventorySchema.h"
 
 #include "decode/engine.h"
+#include "decode/name_links.h"
 
 using namespace inv::decode;
+
+namespace inv::decode::tokens
+{
+
+extern const enumeration ReplicationLevelsType;
+extern const enumeration EntityOwnerType;
+extern const enumeration EntitySelectionType;
+extern const enumeration EidType;
+extern const enumeration EidSubType;
+extern const enumeration MemAccessSpeedUnit;
+extern const enumeration CyclesPerSecUnit;
+extern const enumeration HardwareModelType;
+extern const enumeration LinkApplicableType;
+extern const enumeration SequenceType;
+extern const enumeration I2cDeviceType;
+extern const enumeration PowerZonesValuesType;
+extern const enumeration PciGen;
+extern const enumeration PhyType;
+extern const enumeration EsdPortDestType;
+extern const enumeration PortState;
+extern const enumeration MdioSpeed;
+extern const enumeration LocalSwitching;
+extern const enumeration SerdesParamsType;
+extern const enumeration SfpControllerType;
+extern const enumeration EsdDevVlanType;
+extern const enumeration EsdDevClientType;
+extern const enumeration PortSpeedType;
+extern const enumeration PortModeType;
+extern const enumeration BaseLedColorsType;
+extern const enumeration BaseLedControlType;
+extern const enumeration PortUsageType;
+extern const enumeration EepromUsageType;
+extern const enumeration NodeInfoType_nodeType;
+extern const enumeration I2cPortType_portType;
+extern const enumeration PCIeNodeType_deviceType;
+extern const enumeration BaseContainerListType_containerType;
+extern const enumeration BaseStorageMemoryMap_memoryUsage;
+extern const enumeration BaseEntityType_adminState;
+extern const enumeration BaseEntityType_operState;
+extern const enumeration BaseEntityType_powerAdminState;
+extern const enumeration BaseEntityType_powerOperState;
+extern const enumeration BaseEntityType_dualRouter;
+extern const enumeration BaseSensorType_2_unit;
+extern const enumeration BaseSensorType_2_userDefinedUnit;
+extern const enumeration BaseSensorType_2_scale;
+extern const enumeration BaseVoltageMarginType_2_operation;
+extern const enumeration BaseKestoType_2_isValidated;
+extern const enumeration BaseConsoleType_usage;
+extern const enumeration PEMType_2_faultStatus;
+extern const enumeration PEMType_2_psmState;
+
+}  // namespace inv::decode::tokens
 
 namespace
 {
@@ -18,7 +71,14 @@ constexpr xb_enum_row ReplicationLevelsType_rows[] = {
     {.token = "ORVL_REPLICATION_TYPE_RACK", .code = 1, .token_length = 26, .inverse_index = 1},
     {.token = "ORVL_REPLICATION_TYPE_SYSTEM", .code = 2, .token_length = 28, .inverse_index = 0},
 };
-constexpr enumeration ReplicationLevelsType_tokens = {.rows = ReplicationLevelsType_rows, .count = 6};
+constexpr auto ReplicationLevelsType_links = token_links(ReplicationLevelsType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::ReplicationLevelsType = {.rows = ReplicationLevelsType_rows, .links
+    = ReplicationLevelsType_links.data(), .count = 6};
+
+namespace
+{
 
 constexpr xb_enum_row EntityOwnerType_rows[] = {
     {.token = "ORVL_ENTITY_OWNER_TYPE_ALL", .code = 6, .token_length = 26, .inverse_index = 4},
@@ -29,13 +89,27 @@ constexpr xb_enum_row EntityOwnerType_rows[] = {
     {.token = "ORVL_ENTITY_OWNER_TYPE_QZ_SDR", .code = 4, .token_length = 29, .inverse_index = 1},
     {.token = "ORVL_ENTITY_OWNER_TYPE_SHELF", .code = 1, .token_length = 28, .inverse_index = 0},
 };
-constexpr enumeration EntityOwnerType_tokens = {.rows = EntityOwnerType_rows, .count = 7};
+constexpr auto EntityOwnerType_links = token_links(EntityOwnerType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EntityOwnerType = {.rows = EntityOwnerType_rows, .links =
+    EntityOwnerType_links.data(), .count = 7};
+
+namespace
+{
 
 constexpr xb_enum_row EntitySelectionType_rows[] = {
     {.token = "ORVL_ENTITY_ADD_ALL", .code = 1, .token_length = 19, .inverse_index = 1},
     {.token = "ORVL_ENTITY_ADD_SELECTIVE", .code = 0, .token_length = 25, .inverse_index = 0},
 };
-constexpr enumeration EntitySelectionType_tokens = {.rows = EntitySelectionType_rows, .count = 2};
+constexpr auto EntitySelectionType_links = token_links(EntitySelectionType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EntitySelectionType = {.rows = EntitySelectionType_rows, .links =
+    EntitySelectionType_links.data(), .count = 2};
+
+namespace
+{
 
 constexpr xb_enum_row EidType_rows[] = {
     {.token = "ORVL_ENTITY_TYPE_BACKPLANE", .code = 4, .token_length = 26, .inverse_index = 4},
@@ -52,7 +126,14 @@ constexpr xb_enum_row EidType_rows[] = {
     {.token = "ORVL_ENTITY_TYPE_STACK", .code = 11, .token_length = 22, .inverse_index = 11},
     {.token = "ORVL_ENTITY_TYPE_UNKNOWN", .code = 2, .token_length = 24, .inverse_index = 3},
 };
-constexpr enumeration EidType_tokens = {.rows = EidType_rows, .count = 13};
+constexpr auto EidType_links = token_links(EidType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EidType = {.rows = EidType_rows, .links = EidType_links.data(),
+    .count = 13};
+
+namespace
+{
 
 constexpr xb_enum_row EidSubType_rows[] = {
     {.token = "ORVL_ENTITY_SUBTYPE_BACKPLANE_BSC", .code = 3, .token_length = 33, .inverse_index = 1},
@@ -341,7 +422,14 @@ constexpr xb_enum_row EidSubType_rows[] = {
     {.token = "ORVL_ENTITY_SUBTYPE_UNKNOWN_DUMMY", .code = 233, .token_length = 33, .inverse_index = 235},
     {.token = "ORVL_ENTITY_SUBTYPE_UNKNOWN_MAX", .code = 234, .token_length = 31, .inverse_index = 62},
 };
-constexpr enumeration EidSubType_tokens = {.rows = EidSubType_rows, .count = 236};
+constexpr auto EidSubType_links = token_links(EidSubType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EidSubType = {.rows = EidSubType_rows, .links =
+    EidSubType_links.data(), .count = 236};
+
+namespace
+{
 
 constexpr xb_enum_row MemAccessSpeedUnit_rows[] = {
     {.token = "ORVL_MEM_SPEED_UNIT_DUMMY", .code = 0, .token_length = 25, .inverse_index = 0},
@@ -349,7 +437,14 @@ constexpr xb_enum_row MemAccessSpeedUnit_rows[] = {
     {.token = "ORVL_MEM_SPEED_UNIT_MEGABYTES_PER_SEC", .code = 3, .token_length = 37, .inverse_index = 1},
     {.token = "ORVL_MEM_SPEED_UNIT_OTHER", .code = 1, .token_length = 25, .inverse_index = 2},
 };
-constexpr enumeration MemAccessSpeedUnit_tokens = {.rows = MemAccessSpeedUnit_rows, .count = 4};
+constexpr auto MemAccessSpeedUnit_links = token_links(MemAccessSpeedUnit_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::MemAccessSpeedUnit = {.rows = MemAccessSpeedUnit_rows, .links =
+    MemAccessSpeedUnit_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row CyclesPerSecUnit_rows[] = {
     {.token = "ORVL_CYCLES_PER_SEC_UNIT_DUMMY", .code = 0, .token_length = 30, .inverse_index = 0},
@@ -358,7 +453,14 @@ constexpr xb_enum_row CyclesPerSecUnit_rows[] = {
     {.token = "ORVL_CYSCLES_PER_SEC_UNIT_MHZ", .code = 3, .token_length = 29, .inverse_index = 3},
     {.token = "ORVL_CYSCLES_PER_SEC_UNIT_OTHER", .code = 1, .token_length = 31, .inverse_index = 1},
 };
-constexpr enumeration CyclesPerSecUnit_tokens = {.rows = CyclesPerSecUnit_rows, .count = 5};
+constexpr auto CyclesPerSecUnit_links = token_links(CyclesPerSecUnit_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::CyclesPerSecUnit = {.rows = CyclesPerSecUnit_rows, .links =
+    CyclesPerSecUnit_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row HardwareModelType_rows[] = {
     {.token = "ORVL_HW_MODEL_ADC_16CH_12BIT", .code = 91, .token_length = 28, .inverse_index = 137},
@@ -508,21 +610,42 @@ constexpr xb_enum_row HardwareModelType_rows[] = {
     {.token = "ORVL_HW_MODEL_VOLTAGE_SENSOR_4CH", .code = 86, .token_length = 32, .inverse_index = 16},
     {.token = "ORVL_HW_MODEL_VOLTAGE_SENSOR_8CH", .code = 87, .token_length = 32, .inverse_index = 2},
 };
-constexpr enumeration HardwareModelType_tokens = {.rows = HardwareModelType_rows, .count = 145};
+constexpr auto HardwareModelType_links = token_links(HardwareModelType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::HardwareModelType = {.rows = HardwareModelType_rows, .links =
+    HardwareModelType_links.data(), .count = 145};
+
+namespace
+{
 
 constexpr xb_enum_row LinkApplicableType_rows[] = {
     {.token = "ORVL_CTRL_SLOT_0", .code = 0, .token_length = 16, .inverse_index = 0},
     {.token = "ORVL_CTRL_SLOT_1", .code = 1, .token_length = 16, .inverse_index = 1},
     {.token = "ORVL_CTRL_SLOT_ANY", .code = 2, .token_length = 18, .inverse_index = 2},
 };
-constexpr enumeration LinkApplicableType_tokens = {.rows = LinkApplicableType_rows, .count = 3};
+constexpr auto LinkApplicableType_links = token_links(LinkApplicableType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::LinkApplicableType = {.rows = LinkApplicableType_rows, .links =
+    LinkApplicableType_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row SequenceType_rows[] = {
     {.token = "ORVL_SEQ_FULL", .code = 0, .token_length = 13, .inverse_index = 0},
     {.token = "ORVL_SEQ_LINK", .code = 2, .token_length = 13, .inverse_index = 2},
     {.token = "ORVL_SEQ_PART", .code = 1, .token_length = 13, .inverse_index = 1},
 };
-constexpr enumeration SequenceType_tokens = {.rows = SequenceType_rows, .count = 3};
+constexpr auto SequenceType_links = token_links(SequenceType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::SequenceType = {.rows = SequenceType_rows, .links =
+    SequenceType_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row I2cDeviceType_rows[] = {
     {.token = "ORVL_I2CDEV_TYPE_CCC", .code = 0, .token_length = 20, .inverse_index = 0},
@@ -543,7 +666,14 @@ constexpr xb_enum_row I2cDeviceType_rows[] = {
     {.token = "ORVL_I2CDEV_TYPE_PCISWITCH", .code = 16, .token_length = 26, .inverse_index = 14},
     {.token = "ORVL_I2CDEV_TYPE_PSEUDO_I2CMUX", .code = 12, .token_length = 30, .inverse_index = 15},
 };
-constexpr enumeration I2cDeviceType_tokens = {.rows = I2cDeviceType_rows, .count = 17};
+constexpr auto I2cDeviceType_links = token_links(I2cDeviceType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::I2cDeviceType = {.rows = I2cDeviceType_rows, .links =
+    I2cDeviceType_links.data(), .count = 17};
+
+namespace
+{
 
 constexpr xb_enum_row PowerZonesValuesType_rows[] = {
     {.token = "ORVL_POWER_ZONE_CHASSIS", .code = 2, .token_length = 23, .inverse_index = 17},
@@ -565,7 +695,14 @@ constexpr xb_enum_row PowerZonesValuesType_rows[] = {
     {.token = "ORVL_POWER_ZONE_STANDBY", .code = 1, .token_length = 23, .inverse_index = 6},
     {.token = "ORVL_POWER_ZONE_UNKNOWN", .code = 0, .token_length = 23, .inverse_index = 7},
 };
-constexpr enumeration PowerZonesValuesType_tokens = {.rows = PowerZonesValuesType_rows, .count = 18};
+constexpr auto PowerZonesValuesType_links = token_links(PowerZonesValuesType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PowerZonesValuesType = {.rows = PowerZonesValuesType_rows, .links =
+    PowerZonesValuesType_links.data(), .count = 18};
+
+namespace
+{
 
 constexpr xb_enum_row PciGen_rows[] = {
     {.token = "ORVL_PCI_GEN_DMI1", .code = 0, .token_length = 17, .inverse_index = 0},
@@ -576,7 +713,14 @@ constexpr xb_enum_row PciGen_rows[] = {
     {.token = "ORVL_PCI_GEN_GEN4", .code = 6, .token_length = 17, .inverse_index = 4},
     {.token = "ORVL_PCI_GEN_GENx", .code = 2, .token_length = 17, .inverse_index = 5},
 };
-constexpr enumeration PciGen_tokens = {.rows = PciGen_rows, .count = 7};
+constexpr auto PciGen_links = token_links(PciGen_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PciGen = {.rows = PciGen_rows, .links = PciGen_links.data(), .count
+    = 7};
+
+namespace
+{
 
 constexpr xb_enum_row PhyType_rows[] = {
     {.token = "ORVL_PHY_TYPE_BCM84764", .code = 7, .token_length = 22, .inverse_index = 3},
@@ -589,7 +733,14 @@ constexpr xb_enum_row PhyType_rows[] = {
     {.token = "ORVL_PHY_TYPE_MV2120", .code = 4, .token_length = 20, .inverse_index = 0},
     {.token = "ORVL_PHY_TYPE_NLP1342", .code = 8, .token_length = 21, .inverse_index = 8},
 };
-constexpr enumeration PhyType_tokens = {.rows = PhyType_rows, .count = 9};
+constexpr auto PhyType_links = token_links(PhyType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PhyType = {.rows = PhyType_rows, .links = PhyType_links.data(),
+    .count = 9};
+
+namespace
+{
 
 constexpr xb_enum_row EsdPortDestType_rows[] = {
     {.token = "ORVL_ESD_PORT_DEST_CPU0", .code = 5, .token_length = 23, .inverse_index = 44},
@@ -652,26 +803,54 @@ constexpr xb_enum_row EsdPortDestType_rows[] = {
     {.token = "ORVL_ESD_PORT_DEST_UPLINK_0", .code = 14, .token_length = 27, .inverse_index = 2},
     {.token = "ORVL_ESD_PORT_DEST_UPLINK_1", .code = 15, .token_length = 27, .inverse_index = 3},
 };
-constexpr enumeration EsdPortDestType_tokens = {.rows = EsdPortDestType_rows, .count = 59};
+constexpr auto EsdPortDestType_links = token_links(EsdPortDestType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EsdPortDestType = {.rows = EsdPortDestType_rows, .links =
+    EsdPortDestType_links.data(), .count = 59};
+
+namespace
+{
 
 constexpr xb_enum_row PortState_rows[] = {
     {.token = "ORVL_PORT_STATE_ADMIN_DOWN", .code = 1, .token_length = 26, .inverse_index = 1},
     {.token = "ORVL_PORT_STATE_ADMIN_UP", .code = 0, .token_length = 24, .inverse_index = 0},
 };
-constexpr enumeration PortState_tokens = {.rows = PortState_rows, .count = 2};
+constexpr auto PortState_links = token_links(PortState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PortState = {.rows = PortState_rows, .links =
+    PortState_links.data(), .count = 2};
+
+namespace
+{
 
 constexpr xb_enum_row MdioSpeed_rows[] = {
     {.token = "ORVL_MDIO_CLK_SPEED_DEFAULT", .code = 0, .token_length = 27, .inverse_index = 0},
     {.token = "ORVL_MDIO_CLK_SPEED_FAST", .code = 1, .token_length = 24, .inverse_index = 1},
     {.token = "ORVL_MDIO_CLK_SPEED_SLOW", .code = 2, .token_length = 24, .inverse_index = 2},
 };
-constexpr enumeration MdioSpeed_tokens = {.rows = MdioSpeed_rows, .count = 3};
+constexpr auto MdioSpeed_links = token_links(MdioSpeed_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::MdioSpeed = {.rows = MdioSpeed_rows, .links =
+    MdioSpeed_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row LocalSwitching_rows[] = {
     {.token = "ORVL_LOCAL_SWITCHING_DISABLE", .code = 0, .token_length = 28, .inverse_index = 0},
     {.token = "ORVL_LOCAL_SWITCHING_ENABLE", .code = 1, .token_length = 27, .inverse_index = 1},
 };
-constexpr enumeration LocalSwitching_tokens = {.rows = LocalSwitching_rows, .count = 2};
+constexpr auto LocalSwitching_links = token_links(LocalSwitching_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::LocalSwitching = {.rows = LocalSwitching_rows, .links =
+    LocalSwitching_links.data(), .count = 2};
+
+namespace
+{
 
 constexpr xb_enum_row SerdesParamsType_rows[] = {
     {.token = "ORVL_SERDES_AUTO_TUNE", .code = 2, .token_length = 21, .inverse_index = 3},
@@ -679,14 +858,28 @@ constexpr xb_enum_row SerdesParamsType_rows[] = {
     {.token = "ORVL_SERDES_MAX", .code = 3, .token_length = 15, .inverse_index = 0},
     {.token = "ORVL_SERDES_SHORT_REACH", .code = 0, .token_length = 23, .inverse_index = 2},
 };
-constexpr enumeration SerdesParamsType_tokens = {.rows = SerdesParamsType_rows, .count = 4};
+constexpr auto SerdesParamsType_links = token_links(SerdesParamsType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::SerdesParamsType = {.rows = SerdesParamsType_rows, .links =
+    SerdesParamsType_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row SfpControllerType_rows[] = {
     {.token = "ORVL_SFP_CONTROLLER_PHY", .code = 2, .token_length = 23, .inverse_index = 2},
     {.token = "ORVL_SFP_CONTROLLER_SWITCH", .code = 1, .token_length = 26, .inverse_index = 1},
     {.token = "ORVL_SFP_CONTROLLER_UNKNOWN", .code = 0, .token_length = 27, .inverse_index = 0},
 };
-constexpr enumeration SfpControllerType_tokens = {.rows = SfpControllerType_rows, .count = 3};
+constexpr auto SfpControllerType_links = token_links(SfpControllerType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::SfpControllerType = {.rows = SfpControllerType_rows, .links =
+    SfpControllerType_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row EsdDevVlanType_rows[] = {
     {.token = "ORVL_VLAN_ALL", .code = 10, .token_length = 13, .inverse_index = 2},
@@ -701,7 +894,14 @@ constexpr xb_enum_row EsdDevVlanType_rows[] = {
     {.token = "ORVL_VLAN_RED", .code = 1, .token_length = 13, .inverse_index = 8},
     {.token = "ORVL_VLAN_RED_GREEN", .code = 6, .token_length = 19, .inverse_index = 0},
 };
-constexpr enumeration EsdDevVlanType_tokens = {.rows = EsdDevVlanType_rows, .count = 11};
+constexpr auto EsdDevVlanType_links = token_links(EsdDevVlanType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EsdDevVlanType = {.rows = EsdDevVlanType_rows, .links =
+    EsdDevVlanType_links.data(), .count = 11};
+
+namespace
+{
 
 constexpr xb_enum_row EsdDevClientType_rows[] = {
     {.token = "ORVL_ESD_CLIENT_AMBA", .code = 19, .token_length = 20, .inverse_index = 14},
@@ -732,7 +932,14 @@ constexpr xb_enum_row EsdDevClientType_rows[] = {
     {.token = "ORVL_ESD_CLIENT_UPLINK", .code = 1, .token_length = 22, .inverse_index = 13},
     {.token = "ORVL_ESD_CLIENT_XC", .code = 26, .token_length = 18, .inverse_index = 26},
 };
-constexpr enumeration EsdDevClientType_tokens = {.rows = EsdDevClientType_rows, .count = 27};
+constexpr auto EsdDevClientType_links = token_links(EsdDevClientType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EsdDevClientType = {.rows = EsdDevClientType_rows, .links =
+    EsdDevClientType_links.data(), .count = 27};
+
+namespace
+{
 
 constexpr xb_enum_row PortSpeedType_rows[] = {
     {.token = "ORVL_PORT_SPEED_10GB", .code = 3, .token_length = 20, .inverse_index = 6},
@@ -743,7 +950,14 @@ constexpr xb_enum_row PortSpeedType_rows[] = {
     {.token = "ORVL_PORT_SPEED_40GB", .code = 5, .token_length = 20, .inverse_index = 5},
     {.token = "ORVL_PORT_SPEED_UNKNOWN", .code = 0, .token_length = 23, .inverse_index = 4},
 };
-constexpr enumeration PortSpeedType_tokens = {.rows = PortSpeedType_rows, .count = 7};
+constexpr auto PortSpeedType_links = token_links(PortSpeedType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PortSpeedType = {.rows = PortSpeedType_rows, .links =
+    PortSpeedType_links.data(), .count = 7};
+
+namespace
+{
 
 constexpr xb_enum_row PortModeType_rows[] = {
     {.token = "ORVL_PORT_MODE_1000BASEX", .code = 1, .token_length = 24, .inverse_index = 6},
@@ -755,7 +969,14 @@ constexpr xb_enum_row PortModeType_rows[] = {
     {.token = "ORVL_PORT_MODE_UNKNOWN", .code = 0, .token_length = 22, .inverse_index = 1},
     {.token = "ORVL_PORT_MODE_XAUI", .code = 3, .token_length = 19, .inverse_index = 2},
 };
-constexpr enumeration PortModeType_tokens = {.rows = PortModeType_rows, .count = 8};
+constexpr auto PortModeType_links = token_links(PortModeType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PortModeType = {.rows = PortModeType_rows, .links =
+    PortModeType_links.data(), .count = 8};
+
+namespace
+{
 
 constexpr xb_enum_row BaseLedColorsType_rows[] = {
     {.token = "ORVL_LED_COLOR_BLUE", .code = 0, .token_length = 19, .inverse_index = 0},
@@ -763,7 +984,14 @@ constexpr xb_enum_row BaseLedColorsType_rows[] = {
     {.token = "ORVL_LED_COLOR_RED", .code = 3, .token_length = 18, .inverse_index = 3},
     {.token = "ORVL_LED_COLOR_YELLOW", .code = 2, .token_length = 21, .inverse_index = 2},
 };
-constexpr enumeration BaseLedColorsType_tokens = {.rows = BaseLedColorsType_rows, .count = 4};
+constexpr auto BaseLedColorsType_links = token_links(BaseLedColorsType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseLedColorsType = {.rows = BaseLedColorsType_rows, .links =
+    BaseLedColorsType_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row BaseLedControlType_rows[] = {
     {.token = "ORVL_LED_CONTROL_BLINK", .code = 2, .token_length = 22, .inverse_index = 4},
@@ -772,7 +1000,14 @@ constexpr xb_enum_row BaseLedControlType_rows[] = {
     {.token = "ORVL_LED_CONTROL_OFF", .code = 1, .token_length = 20, .inverse_index = 2},
     {.token = "ORVL_LED_CONTROL_ON", .code = 0, .token_length = 19, .inverse_index = 1},
 };
-constexpr enumeration BaseLedControlType_tokens = {.rows = BaseLedControlType_rows, .count = 5};
+constexpr auto BaseLedControlType_links = token_links(BaseLedControlType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseLedControlType = {.rows = BaseLedControlType_rows, .links =
+    BaseLedControlType_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row PortUsageType_rows[] = {
     {.token = "ORVL_PORT_USAGE_ALARM", .code = 1, .token_length = 21, .inverse_index = 7},
@@ -784,14 +1019,28 @@ constexpr xb_enum_row PortUsageType_rows[] = {
     {.token = "ORVL_PORT_USAGE_TRAFFIC", .code = 6, .token_length = 23, .inverse_index = 6},
     {.token = "ORVL_PORT_USAGE_UNKNOWN", .code = 0, .token_length = 23, .inverse_index = 4},
 };
-constexpr enumeration PortUsageType_tokens = {.rows = PortUsageType_rows, .count = 8};
+constexpr auto PortUsageType_links = token_links(PortUsageType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PortUsageType = {.rows = PortUsageType_rows, .links =
+    PortUsageType_links.data(), .count = 8};
+
+namespace
+{
 
 constexpr xb_enum_row EepromUsageType_rows[] = {
     {.token = "ORVL_EEPROM_TYPE_ID", .code = 0, .token_length = 19, .inverse_index = 0},
     {.token = "ORVL_EEPROM_TYPE_SCRATCH", .code = 1, .token_length = 24, .inverse_index = 1},
     {.token = "ORVL_EEPROM_TYPE_UNKNOWN", .code = 2, .token_length = 24, .inverse_index = 2},
 };
-constexpr enumeration EepromUsageType_tokens = {.rows = EepromUsageType_rows, .count = 3};
+constexpr auto EepromUsageType_links = token_links(EepromUsageType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::EepromUsageType = {.rows = EepromUsageType_rows, .links =
+    EepromUsageType_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row NodeInfoType_nodeType_rows[] = {
     {.token = "ORVL_NODE_TYPE_BPID2", .code = 20, .token_length = 20, .inverse_index = 21},
@@ -817,7 +1066,14 @@ constexpr xb_enum_row NodeInfoType_nodeType_rows[] = {
     {.token = "ORVL_NODE_TYPE_SYSTEMCONTCARD", .code = 18, .token_length = 29, .inverse_index = 0},
     {.token = "ORVL_NODE_TYPE_UNKNOWN", .code = 0, .token_length = 22, .inverse_index = 10},
 };
-constexpr enumeration NodeInfoType_nodeType_tokens = {.rows = NodeInfoType_nodeType_rows, .count = 22};
+constexpr auto NodeInfoType_nodeType_links = token_links(NodeInfoType_nodeType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::NodeInfoType_nodeType = {.rows = NodeInfoType_nodeType_rows, .links
+    = NodeInfoType_nodeType_links.data(), .count = 22};
+
+namespace
+{
 
 constexpr xb_enum_row I2cPortType_portType_rows[] = {
     {.token = "ORVL_PORT_TYPE_MASTER", .code = 0, .token_length = 21, .inverse_index = 0},
@@ -825,14 +1081,28 @@ constexpr xb_enum_row I2cPortType_portType_rows[] = {
     {.token = "ORVL_PORT_TYPE_PMBUS", .code = 2, .token_length = 20, .inverse_index = 2},
     {.token = "ORVL_PORT_TYPE_SMBUS", .code = 3, .token_length = 20, .inverse_index = 3},
 };
-constexpr enumeration I2cPortType_portType_tokens = {.rows = I2cPortType_portType_rows, .count = 4};
+constexpr auto I2cPortType_portType_links = token_links(I2cPortType_portType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::I2cPortType_portType = {.rows = I2cPortType_portType_rows, .links =
+    I2cPortType_portType_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row PCIeNodeType_deviceType_rows[] = {
     {.token = "ORVL_DEV_TYPE_PCISWITCH", .code = 0, .token_length = 23, .inverse_index = 0},
     {.token = "ORVL_DEV_TYPE_PCITARGET", .code = 1, .token_length = 23, .inverse_index = 1},
     {.token = "ORVL_DEV_TYPE_UNKNOWN", .code = 2, .token_length = 21, .inverse_index = 2},
 };
-constexpr enumeration PCIeNodeType_deviceType_tokens = {.rows = PCIeNodeType_deviceType_rows, .count = 3};
+constexpr auto PCIeNodeType_deviceType_links = token_links(PCIeNodeType_deviceType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PCIeNodeType_deviceType = {.rows = PCIeNodeType_deviceType_rows,
+    .links = PCIeNodeType_deviceType_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row BaseContainerListType_containerType_rows[] = {
     {.token = "ORVL_CONTAINER_TYPE_BPID2SLOT", .code = 11, .token_length = 29, .inverse_index = 1},
@@ -848,8 +1118,16 @@ constexpr xb_enum_row BaseContainerListType_containerType_rows[] = {
     {.token = "ORVL_CONTAINER_TYPE_SWITCHCARDSLOT", .code = 5, .token_length = 34, .inverse_index = 11},
     {.token = "ORVL_CONTAINER_TYPE_SYSTEMCONTSLOT", .code = 10, .token_length = 34, .inverse_index = 0},
 };
-constexpr enumeration BaseContainerListType_containerType_tokens = {.rows =
-    BaseContainerListType_containerType_rows, .count = 12};
+constexpr auto BaseContainerListType_containerType_links =
+    token_links(BaseContainerListType_containerType_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseContainerListType_containerType = {.rows =
+    BaseContainerListType_containerType_rows, .links = BaseContainerListType_containerType_links.data(),
+    .count = 12};
+
+namespace
+{
 
 constexpr xb_enum_row BaseStorageMemoryMap_memoryUsage_rows[] = {
     {.token = "ORVL_MEM_USAGE_BOOTHEADER", .code = 0, .token_length = 25, .inverse_index = 0},
@@ -860,8 +1138,15 @@ constexpr xb_enum_row BaseStorageMemoryMap_memoryUsage_rows[] = {
     {.token = "ORVL_MEM_USAGE_WORKING_FPGA_CONFIG_IMAGE", .code = 5, .token_length = 40, .inverse_index = 5},
     {.token = "ORVL_MEM_USAGE_WORKING_INTERPRETER_IMAGE", .code = 6, .token_length = 40, .inverse_index = 6},
 };
-constexpr enumeration BaseStorageMemoryMap_memoryUsage_tokens = {.rows =
-    BaseStorageMemoryMap_memoryUsage_rows, .count = 7};
+constexpr auto BaseStorageMemoryMap_memoryUsage_links = token_links(BaseStorageMemoryMap_memoryUsage_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseStorageMemoryMap_memoryUsage = {.rows =
+    BaseStorageMemoryMap_memoryUsage_rows, .links = BaseStorageMemoryMap_memoryUsage_links.data(), .count =
+    7};
+
+namespace
+{
 
 constexpr xb_enum_row BaseEntityType_adminState_rows[] = {
     {.token = "ORVL_ADMIN_STATE_DISABLED", .code = 2, .token_length = 25, .inverse_index = 4},
@@ -870,7 +1155,14 @@ constexpr xb_enum_row BaseEntityType_adminState_rows[] = {
     {.token = "ORVL_ADMIN_STATE_N/A", .code = 3, .token_length = 20, .inverse_index = 3},
     {.token = "ORVL_ADMIN_STATE_UNKNOWN", .code = 0, .token_length = 24, .inverse_index = 2},
 };
-constexpr enumeration BaseEntityType_adminState_tokens = {.rows = BaseEntityType_adminState_rows, .count = 5};
+constexpr auto BaseEntityType_adminState_links = token_links(BaseEntityType_adminState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseEntityType_adminState = {.rows =
+    BaseEntityType_adminState_rows, .links = BaseEntityType_adminState_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row BaseEntityType_operState_rows[] = {
     {.token = "ORVL_OPER_STATE_DOWN", .code = 2, .token_length = 20, .inverse_index = 3},
@@ -879,7 +1171,14 @@ constexpr xb_enum_row BaseEntityType_operState_rows[] = {
     {.token = "ORVL_OPER_STATE_UNKNOWN", .code = 0, .token_length = 23, .inverse_index = 2},
     {.token = "ORVL_OPER_STATE_UP", .code = 1, .token_length = 18, .inverse_index = 1},
 };
-constexpr enumeration BaseEntityType_operState_tokens = {.rows = BaseEntityType_operState_rows, .count = 5};
+constexpr auto BaseEntityType_operState_links = token_links(BaseEntityType_operState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseEntityType_operState = {.rows = BaseEntityType_operState_rows,
+    .links = BaseEntityType_operState_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row BaseEntityType_powerAdminState_rows[] = {
     {.token = "ORVL_POWER_ADMIN_STATE_MAX", .code = 4, .token_length = 26, .inverse_index = 4},
@@ -888,8 +1187,14 @@ constexpr xb_enum_row BaseEntityType_powerAdminState_rows[] = {
     {.token = "ORVL_POWER_ADMIN_STATE_ON", .code = 1, .token_length = 25, .inverse_index = 1},
     {.token = "ORVL_POWER_ADMIN_STATE_UNKNOWN", .code = 0, .token_length = 30, .inverse_index = 0},
 };
-constexpr enumeration BaseEntityType_powerAdminState_tokens = {.rows = BaseEntityType_powerAdminState_rows,
-    .count = 5};
+constexpr auto BaseEntityType_powerAdminState_links = token_links(BaseEntityType_powerAdminState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseEntityType_powerAdminState = {.rows =
+    BaseEntityType_powerAdminState_rows, .links = BaseEntityType_powerAdminState_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row BaseEntityType_powerOperState_rows[] = {
     {.token = "ORVL_POWER_OPER_STATE_MAX", .code = 4, .token_length = 25, .inverse_index = 4},
@@ -898,8 +1203,14 @@ constexpr xb_enum_row BaseEntityType_powerOperState_rows[] = {
     {.token = "ORVL_POWER_OPER_STATE_ON", .code = 1, .token_length = 24, .inverse_index = 1},
     {.token = "ORVL_POWER_OPER_STATE_UNKNOWN", .code = 0, .token_length = 29, .inverse_index = 0},
 };
-constexpr enumeration BaseEntityType_powerOperState_tokens = {.rows = BaseEntityType_powerOperState_rows,
-    .count = 5};
+constexpr auto BaseEntityType_powerOperState_links = token_links(BaseEntityType_powerOperState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseEntityType_powerOperState = {.rows =
+    BaseEntityType_powerOperState_rows, .links = BaseEntityType_powerOperState_links.data(), .count = 5};
+
+namespace
+{
 
 constexpr xb_enum_row BaseEntityType_dualRouter_rows[] = {
     {.token = "ORVL_DUAL_ROUTER_MODE_BOTH", .code = 3, .token_length = 26, .inverse_index = 3},
@@ -907,7 +1218,14 @@ constexpr xb_enum_row BaseEntityType_dualRouter_rows[] = {
     {.token = "ORVL_DUAL_ROUTER_MODE_RP1", .code = 2, .token_length = 25, .inverse_index = 2},
     {.token = "ORVL_DUAL_ROUTER_MODE_SINGLE", .code = 0, .token_length = 28, .inverse_index = 0},
 };
-constexpr enumeration BaseEntityType_dualRouter_tokens = {.rows = BaseEntityType_dualRouter_rows, .count = 4};
+constexpr auto BaseEntityType_dualRouter_links = token_links(BaseEntityType_dualRouter_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseEntityType_dualRouter = {.rows =
+    BaseEntityType_dualRouter_rows, .links = BaseEntityType_dualRouter_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row BaseSensorType_2_unit_rows[] = {
     {.token = "ORVL_SENSOR_UNIT_AMPS", .code = 5, .token_length = 21, .inverse_index = 5},
@@ -928,7 +1246,14 @@ constexpr xb_enum_row BaseSensorType_2_unit_rows[] = {
     {.token = "ORVL_SENSOR_UNIT_VOLT_DC", .code = 4, .token_length = 24, .inverse_index = 3},
     {.token = "ORVL_SENSOR_UNIT_WATTS", .code = 6, .token_length = 22, .inverse_index = 8},
 };
-constexpr enumeration BaseSensorType_2_unit_tokens = {.rows = BaseSensorType_2_unit_rows, .count = 17};
+constexpr auto BaseSensorType_2_unit_links = token_links(BaseSensorType_2_unit_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseSensorType_2_unit = {.rows = BaseSensorType_2_unit_rows, .links
+    = BaseSensorType_2_unit_links.data(), .count = 17};
+
+namespace
+{
 
 constexpr xb_enum_row BaseSensorType_2_userDefinedUnit_rows[] = {
     {.token = "ORVL_USER_DEFINED_SENSOR_UNIT_FARENHEIT", .code = 0, .token_length = 39, .inverse_index = 0},
@@ -939,8 +1264,15 @@ constexpr xb_enum_row BaseSensorType_2_userDefinedUnit_rows[] = {
      .inverse_index = 1},
     {.token = "ORVL_USER_DEFINED_SENSOR_UNIT_MILLIWATTS", .code = 4, .token_length = 40, .inverse_index = 4},
 };
-constexpr enumeration BaseSensorType_2_userDefinedUnit_tokens = {.rows =
-    BaseSensorType_2_userDefinedUnit_rows, .count = 5};
+constexpr auto BaseSensorType_2_userDefinedUnit_links = token_links(BaseSensorType_2_userDefinedUnit_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseSensorType_2_userDefinedUnit = {.rows =
+    BaseSensorType_2_userDefinedUnit_rows, .links = BaseSensorType_2_userDefinedUnit_links.data(), .count =
+    5};
+
+namespace
+{
 
 constexpr xb_enum_row BaseSensorType_2_scale_rows[] = {
     {.token = "ORVL_SENSOR_SCALE_ATTO", .code = 3, .token_length = 22, .inverse_index = 1},
@@ -962,23 +1294,43 @@ constexpr xb_enum_row BaseSensorType_2_scale_rows[] = {
     {.token = "ORVL_SENSOR_SCALE_ZEPTO", .code = 2, .token_length = 23, .inverse_index = 17},
     {.token = "ORVL_SENSOR_SCALE_ZETTA", .code = 16, .token_length = 23, .inverse_index = 15},
 };
-constexpr enumeration BaseSensorType_2_scale_tokens = {.rows = BaseSensorType_2_scale_rows, .count = 18};
+constexpr auto BaseSensorType_2_scale_links = token_links(BaseSensorType_2_scale_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseSensorType_2_scale = {.rows = BaseSensorType_2_scale_rows,
+    .links = BaseSensorType_2_scale_links.data(), .count = 18};
+
+namespace
+{
 
 constexpr xb_enum_row BaseVoltageMarginType_2_operation_rows[] = {
     {.token = "ORVL_VOLT_MARGIN_HIGH", .code = 0, .token_length = 21, .inverse_index = 0},
     {.token = "ORVL_VOLT_MARGIN_LOW", .code = 1, .token_length = 20, .inverse_index = 1},
     {.token = "ORVL_VOLT_MARGIN_OFF", .code = 2, .token_length = 20, .inverse_index = 2},
 };
-constexpr enumeration BaseVoltageMarginType_2_operation_tokens = {.rows =
-    BaseVoltageMarginType_2_operation_rows, .count = 3};
+constexpr auto BaseVoltageMarginType_2_operation_links = token_links(BaseVoltageMarginType_2_operation_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseVoltageMarginType_2_operation = {.rows =
+    BaseVoltageMarginType_2_operation_rows, .links = BaseVoltageMarginType_2_operation_links.data(), .count =
+    3};
+
+namespace
+{
 
 constexpr xb_enum_row BaseKestoType_2_isValidated_rows[] = {
     {.token = "ORVL_KESTO_FAILED", .code = 1, .token_length = 17, .inverse_index = 1},
     {.token = "ORVL_KESTO_PASSED", .code = 0, .token_length = 17, .inverse_index = 0},
     {.token = "ORVL_KESTO_UNTESTED", .code = 2, .token_length = 19, .inverse_index = 2},
 };
-constexpr enumeration BaseKestoType_2_isValidated_tokens = {.rows = BaseKestoType_2_isValidated_rows, .count =
-    3};
+constexpr auto BaseKestoType_2_isValidated_links = token_links(BaseKestoType_2_isValidated_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseKestoType_2_isValidated = {.rows =
+    BaseKestoType_2_isValidated_rows, .links = BaseKestoType_2_isValidated_links.data(), .count = 3};
+
+namespace
+{
 
 constexpr xb_enum_row BaseConsoleType_usage_rows[] = {
     {.token = "ORVL_CONSOLE_PORT_ANY", .code = 0, .token_length = 21, .inverse_index = 0},
@@ -986,7 +1338,14 @@ constexpr xb_enum_row BaseConsoleType_usage_rows[] = {
     {.token = "ORVL_CONSOLE_PORT_KERNEL", .code = 1, .token_length = 24, .inverse_index = 1},
     {.token = "ORVL_CONSOLE_PORT_OTHER", .code = 3, .token_length = 23, .inverse_index = 3},
 };
-constexpr enumeration BaseConsoleType_usage_tokens = {.rows = BaseConsoleType_usage_rows, .count = 4};
+constexpr auto BaseConsoleType_usage_links = token_links(BaseConsoleType_usage_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::BaseConsoleType_usage = {.rows = BaseConsoleType_usage_rows, .links
+    = BaseConsoleType_usage_links.data(), .count = 4};
+
+namespace
+{
 
 constexpr xb_enum_row PEMType_2_faultStatus_rows[] = {
     {.token = "ORVL_FAULT_STATUS_BOOST_VBULK_FAULT", .code = 12, .token_length = 35, .inverse_index = 7},
@@ -1008,14 +1367,28 @@ constexpr xb_enum_row PEMType_2_faultStatus_rows[] = {
     {.token = "ORVL_FAULT_STATUS_PS_VOUT_OUT_OF_RANGE", .code = 14, .token_length = 38, .inverse_index = 14},
     {.token = "ORVL_FAULT_STATUS_THERMAL_SENSOR_FAULT", .code = 7, .token_length = 38, .inverse_index = 13},
 };
-constexpr enumeration PEMType_2_faultStatus_tokens = {.rows = PEMType_2_faultStatus_rows, .count = 16};
+constexpr auto PEMType_2_faultStatus_links = token_links(PEMType_2_faultStatus_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PEMType_2_faultStatus = {.rows = PEMType_2_faultStatus_rows, .links
+    = PEMType_2_faultStatus_links.data(), .count = 16};
+
+namespace
+{
 
 constexpr xb_enum_row PEMType_2_psmState_rows[] = {
     {.token = "ORVL_PSM_STATE_DISABLED", .code = 1, .token_length = 23, .inverse_index = 1},
     {.token = "ORVL_PSM_STATE_ENABLED", .code = 0, .token_length = 22, .inverse_index = 0},
     {.token = "ORVL_PSM_STATE_FAILED", .code = 2, .token_length = 21, .inverse_index = 2},
 };
-constexpr enumeration PEMType_2_psmState_tokens = {.rows = PEMType_2_psmState_rows, .count = 3};
+constexpr auto PEMType_2_psmState_links = token_links(PEMType_2_psmState_rows);
+}  // namespace
+
+constexpr enumeration inv::decode::tokens::PEMType_2_psmState = {.rows = PEMType_2_psmState_rows, .links =
+    PEMType_2_psmState_links.data(), .count = 3};
+
+namespace
+{
 
 void Init_BaseLEDType_2(BaseLEDType_2 *record)
 {
@@ -1154,462 +1527,462 @@ void Init_PowerShelfType_2(PowerShelfType_2 *record)
 
 int32_t ReplicationLevelsType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(ReplicationLevelsType_tokens, text, length, code);
+    return find_code(tokens::ReplicationLevelsType, text, length, code);
 }
 
 const char *ReplicationLevelsType_ToString(uint32_t code)
 {
-    return find_token(ReplicationLevelsType_tokens, code);
+    return find_token(tokens::ReplicationLevelsType, code);
 }
 
 int32_t EntityOwnerType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EntityOwnerType_tokens, text, length, code);
+    return find_code(tokens::EntityOwnerType, text, length, code);
 }
 
 const char *EntityOwnerType_ToString(uint32_t code)
 {
-    return find_token(EntityOwnerType_tokens, code);
+    return find_token(tokens::EntityOwnerType, code);
 }
 
 int32_t EntitySelectionType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EntitySelectionType_tokens, text, length, code);
+    return find_code(tokens::EntitySelectionType, text, length, code);
 }
 
 const char *EntitySelectionType_ToString(uint32_t code)
 {
-    return find_token(EntitySelectionType_tokens, code);
+    return find_token(tokens::EntitySelectionType, code);
 }
 
 int32_t EidType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EidType_tokens, text, length, code);
+    return find_code(tokens::EidType, text, length, code);
 }
 
 const char *EidType_ToString(uint32_t code)
 {
-    return find_token(EidType_tokens, code);
+    return find_token(tokens::EidType, code);
 }
 
 int32_t EidSubType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EidSubType_tokens, text, length, code);
+    return find_code(tokens::EidSubType, text, length, code);
 }
 
 const char *EidSubType_ToString(uint32_t code)
 {
-    return find_token(EidSubType_tokens, code);
+    return find_token(tokens::EidSubType, code);
 }
 
 int32_t MemAccessSpeedUnit_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(MemAccessSpeedUnit_tokens, text, length, code);
+    return find_code(tokens::MemAccessSpeedUnit, text, length, code);
 }
 
 const char *MemAccessSpeedUnit_ToString(uint32_t code)
 {
-    return find_token(MemAccessSpeedUnit_tokens, code);
+    return find_token(tokens::MemAccessSpeedUnit, code);
 }
 
 int32_t CyclesPerSecUnit_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(CyclesPerSecUnit_tokens, text, length, code);
+    return find_code(tokens::CyclesPerSecUnit, text, length, code);
 }
 
 const char *CyclesPerSecUnit_ToString(uint32_t code)
 {
-    return find_token(CyclesPerSecUnit_tokens, code);
+    return find_token(tokens::CyclesPerSecUnit, code);
 }
 
 int32_t HardwareModelType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(HardwareModelType_tokens, text, length, code);
+    return find_code(tokens::HardwareModelType, text, length, code);
 }
 
 const char *HardwareModelType_ToString(uint32_t code)
 {
-    return find_token(HardwareModelType_tokens, code);
+    return find_token(tokens::HardwareModelType, code);
 }
 
 int32_t LinkApplicableType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(LinkApplicableType_tokens, text, length, code);
+    return find_code(tokens::LinkApplicableType, text, length, code);
 }
 
 const char *LinkApplicableType_ToString(uint32_t code)
 {
-    return find_token(LinkApplicableType_tokens, code);
+    return find_token(tokens::LinkApplicableType, code);
 }
 
 int32_t SequenceType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(SequenceType_tokens, text, length, code);
+    return find_code(tokens::SequenceType, text, length, code);
 }
 
 const char *SequenceType_ToString(uint32_t code)
 {
-    return find_token(SequenceType_tokens, code);
+    return find_token(tokens::SequenceType, code);
 }
 
 int32_t I2cDeviceType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(I2cDeviceType_tokens, text, length, code);
+    return find_code(tokens::I2cDeviceType, text, length, code);
 }
 
 const char *I2cDeviceType_ToString(uint32_t code)
 {
-    return find_token(I2cDeviceType_tokens, code);
+    return find_token(tokens::I2cDeviceType, code);
 }
 
 int32_t PowerZonesValuesType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PowerZonesValuesType_tokens, text, length, code);
+    return find_code(tokens::PowerZonesValuesType, text, length, code);
 }
 
 const char *PowerZonesValuesType_ToString(uint32_t code)
 {
-    return find_token(PowerZonesValuesType_tokens, code);
+    return find_token(tokens::PowerZonesValuesType, code);
 }
 
 int32_t PciGen_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PciGen_tokens, text, length, code);
+    return find_code(tokens::PciGen, text, length, code);
 }
 
 const char *PciGen_ToString(uint32_t code)
 {
-    return find_token(PciGen_tokens, code);
+    return find_token(tokens::PciGen, code);
 }
 
 int32_t PhyType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PhyType_tokens, text, length, code);
+    return find_code(tokens::PhyType, text, length, code);
 }
 
 const char *PhyType_ToString(uint32_t code)
 {
-    return find_token(PhyType_tokens, code);
+    return find_token(tokens::PhyType, code);
 }
 
 int32_t EsdPortDestType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EsdPortDestType_tokens, text, length, code);
+    return find_code(tokens::EsdPortDestType, text, length, code);
 }
 
 const char *EsdPortDestType_ToString(uint32_t code)
 {
-    return find_token(EsdPortDestType_tokens, code);
+    return find_token(tokens::EsdPortDestType, code);
 }
 
 int32_t PortState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PortState_tokens, text, length, code);
+    return find_code(tokens::PortState, text, length, code);
 }
 
 const char *PortState_ToString(uint32_t code)
 {
-    return find_token(PortState_tokens, code);
+    return find_token(tokens::PortState, code);
 }
 
 int32_t MdioSpeed_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(MdioSpeed_tokens, text, length, code);
+    return find_code(tokens::MdioSpeed, text, length, code);
 }
 
 const char *MdioSpeed_ToString(uint32_t code)
 {
-    return find_token(MdioSpeed_tokens, code);
+    return find_token(tokens::MdioSpeed, code);
 }
 
 int32_t LocalSwitching_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(LocalSwitching_tokens, text, length, code);
+    return find_code(tokens::LocalSwitching, text, length, code);
 }
 
 const char *LocalSwitching_ToString(uint32_t code)
 {
-    return find_token(LocalSwitching_tokens, code);
+    return find_token(tokens::LocalSwitching, code);
 }
 
 int32_t SerdesParamsType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(SerdesParamsType_tokens, text, length, code);
+    return find_code(tokens::SerdesParamsType, text, length, code);
 }
 
 const char *SerdesParamsType_ToString(uint32_t code)
 {
-    return find_token(SerdesParamsType_tokens, code);
+    return find_token(tokens::SerdesParamsType, code);
 }
 
 int32_t SfpControllerType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(SfpControllerType_tokens, text, length, code);
+    return find_code(tokens::SfpControllerType, text, length, code);
 }
 
 const char *SfpControllerType_ToString(uint32_t code)
 {
-    return find_token(SfpControllerType_tokens, code);
+    return find_token(tokens::SfpControllerType, code);
 }
 
 int32_t EsdDevVlanType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EsdDevVlanType_tokens, text, length, code);
+    return find_code(tokens::EsdDevVlanType, text, length, code);
 }
 
 const char *EsdDevVlanType_ToString(uint32_t code)
 {
-    return find_token(EsdDevVlanType_tokens, code);
+    return find_token(tokens::EsdDevVlanType, code);
 }
 
 int32_t EsdDevClientType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EsdDevClientType_tokens, text, length, code);
+    return find_code(tokens::EsdDevClientType, text, length, code);
 }
 
 const char *EsdDevClientType_ToString(uint32_t code)
 {
-    return find_token(EsdDevClientType_tokens, code);
+    return find_token(tokens::EsdDevClientType, code);
 }
 
 int32_t PortSpeedType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PortSpeedType_tokens, text, length, code);
+    return find_code(tokens::PortSpeedType, text, length, code);
 }
 
 const char *PortSpeedType_ToString(uint32_t code)
 {
-    return find_token(PortSpeedType_tokens, code);
+    return find_token(tokens::PortSpeedType, code);
 }
 
 int32_t PortModeType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PortModeType_tokens, text, length, code);
+    return find_code(tokens::PortModeType, text, length, code);
 }
 
 const char *PortModeType_ToString(uint32_t code)
 {
-    return find_token(PortModeType_tokens, code);
+    return find_token(tokens::PortModeType, code);
 }
 
 int32_t BaseLedColorsType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseLedColorsType_tokens, text, length, code);
+    return find_code(tokens::BaseLedColorsType, text, length, code);
 }
 
 const char *BaseLedColorsType_ToString(uint32_t code)
 {
-    return find_token(BaseLedColorsType_tokens, code);
+    return find_token(tokens::BaseLedColorsType, code);
 }
 
 int32_t BaseLedControlType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseLedControlType_tokens, text, length, code);
+    return find_code(tokens::BaseLedControlType, text, length, code);
 }
 
 const char *BaseLedControlType_ToString(uint32_t code)
 {
-    return find_token(BaseLedControlType_tokens, code);
+    return find_token(tokens::BaseLedControlType, code);
 }
 
 int32_t PortUsageType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PortUsageType_tokens, text, length, code);
+    return find_code(tokens::PortUsageType, text, length, code);
 }
 
 const char *PortUsageType_ToString(uint32_t code)
 {
-    return find_token(PortUsageType_tokens, code);
+    return find_token(tokens::PortUsageType, code);
 }
 
 int32_t EepromUsageType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(EepromUsageType_tokens, text, length, code);
+    return find_code(tokens::EepromUsageType, text, length, code);
 }
 
 const char *EepromUsageType_ToString(uint32_t code)
 {
-    return find_token(EepromUsageType_tokens, code);
+    return find_token(tokens::EepromUsageType, code);
 }
 
 int32_t NodeInfoType_nodeType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(NodeInfoType_nodeType_tokens, text, length, code);
+    return find_code(tokens::NodeInfoType_nodeType, text, length, code);
 }
 
 const char *NodeInfoType_nodeType_ToString(uint32_t code)
 {
-    return find_token(NodeInfoType_nodeType_tokens, code);
+    return find_token(tokens::NodeInfoType_nodeType, code);
 }
 
 int32_t I2cPortType_portType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(I2cPortType_portType_tokens, text, length, code);
+    return find_code(tokens::I2cPortType_portType, text, length, code);
 }
 
 const char *I2cPortType_portType_ToString(uint32_t code)
 {
-    return find_token(I2cPortType_portType_tokens, code);
+    return find_token(tokens::I2cPortType_portType, code);
 }
 
 int32_t PCIeNodeType_deviceType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PCIeNodeType_deviceType_tokens, text, length, code);
+    return find_code(tokens::PCIeNodeType_deviceType, text, length, code);
 }
 
 const char *PCIeNodeType_deviceType_ToString(uint32_t code)
 {
-    return find_token(PCIeNodeType_deviceType_tokens, code);
+    return find_token(tokens::PCIeNodeType_deviceType, code);
 }
 
 int32_t BaseContainerListType_containerType_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseContainerListType_containerType_tokens, text, length, code);
+    return find_code(tokens::BaseContainerListType_containerType, text, length, code);
 }
 
 const char *BaseContainerListType_containerType_ToString(uint32_t code)
 {
-    return find_token(BaseContainerListType_containerType_tokens, code);
+    return find_token(tokens::BaseContainerListType_containerType, code);
 }
 
 int32_t BaseStorageMemoryMap_memoryUsage_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseStorageMemoryMap_memoryUsage_tokens, text, length, code);
+    return find_code(tokens::BaseStorageMemoryMap_memoryUsage, text, length, code);
 }
 
 const char *BaseStorageMemoryMap_memoryUsage_ToString(uint32_t code)
 {
-    return find_token(BaseStorageMemoryMap_memoryUsage_tokens, code);
+    return find_token(tokens::BaseStorageMemoryMap_memoryUsage, code);
 }
 
 int32_t BaseEntityType_adminState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseEntityType_adminState_tokens, text, length, code);
+    return find_code(tokens::BaseEntityType_adminState, text, length, code);
 }
 
 const char *BaseEntityType_adminState_ToString(uint32_t code)
 {
-    return find_token(BaseEntityType_adminState_tokens, code);
+    return find_token(tokens::BaseEntityType_adminState, code);
 }
 
 int32_t BaseEntityType_operState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseEntityType_operState_tokens, text, length, code);
+    return find_code(tokens::BaseEntityType_operState, text, length, code);
 }
 
 const char *BaseEntityType_operState_ToString(uint32_t code)
 {
-    return find_token(BaseEntityType_operState_tokens, code);
+    return find_token(tokens::BaseEntityType_operState, code);
 }
 
 int32_t BaseEntityType_powerAdminState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseEntityType_powerAdminState_tokens, text, length, code);
+    return find_code(tokens::BaseEntityType_powerAdminState, text, length, code);
 }
 
 const char *BaseEntityType_powerAdminState_ToString(uint32_t code)
 {
-    return find_token(BaseEntityType_powerAdminState_tokens, code);
+    return find_token(tokens::BaseEntityType_powerAdminState, code);
 }
 
 int32_t BaseEntityType_powerOperState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseEntityType_powerOperState_tokens, text, length, code);
+    return find_code(tokens::BaseEntityType_powerOperState, text, length, code);
 }
 
 const char *BaseEntityType_powerOperState_ToString(uint32_t code)
 {
-    return find_token(BaseEntityType_powerOperState_tokens, code);
+    return find_token(tokens::BaseEntityType_powerOperState, code);
 }
 
 int32_t BaseEntityType_dualRouter_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseEntityType_dualRouter_tokens, text, length, code);
+    return find_code(tokens::BaseEntityType_dualRouter, text, length, code);
 }
 
 const char *BaseEntityType_dualRouter_ToString(uint32_t code)
 {
-    return find_token(BaseEntityType_dualRouter_tokens, code);
+    return find_token(tokens::BaseEntityType_dualRouter, code);
 }
 
 int32_t BaseSensorType_2_unit_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseSensorType_2_unit_tokens, text, length, code);
+    return find_code(tokens::BaseSensorType_2_unit, text, length, code);
 }
 
 const char *BaseSensorType_2_unit_ToString(uint32_t code)
 {
-    return find_token(BaseSensorType_2_unit_tokens, code);
+    return find_token(tokens::BaseSensorType_2_unit, code);
 }
 
 int32_t BaseSensorType_2_userDefinedUnit_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseSensorType_2_userDefinedUnit_tokens, text, length, code);
+    return find_code(tokens::BaseSensorType_2_userDefinedUnit, text, length, code);
 }
 
 const char *BaseSensorType_2_userDefinedUnit_ToString(uint32_t code)
 {
-    return find_token(BaseSensorType_2_userDefinedUnit_tokens, code);
+    return find_token(tokens::BaseSensorType_2_userDefinedUnit, code);
 }
 
 int32_t BaseSensorType_2_scale_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseSensorType_2_scale_tokens, text, length, code);
+    return find_code(tokens::BaseSensorType_2_scale, text, length, code);
 }
 
 const char *BaseSensorType_2_scale_ToString(uint32_t code)
 {
-    return find_token(BaseSensorType_2_scale_tokens, code);
+    return find_token(tokens::BaseSensorType_2_scale, code);
 }
 
 int32_t BaseVoltageMarginType_2_operation_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseVoltageMarginType_2_operation_tokens, text, length, code);
+    return find_code(tokens::BaseVoltageMarginType_2_operation, text, length, code);
 }
 
 const char *BaseVoltageMarginType_2_operation_ToString(uint32_t code)
 {
-    return find_token(BaseVoltageMarginType_2_operation_tokens, code);
+    return find_token(tokens::BaseVoltageMarginType_2_operation, code);
 }
 
 int32_t BaseKestoType_2_isValidated_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseKestoType_2_isValidated_tokens, text, length, code);
+    return find_code(tokens::BaseKestoType_2_isValidated, text, length, code);
 }
 
 const char *BaseKestoType_2_isValidated_ToString(uint32_t code)
 {
-    return find_token(BaseKestoType_2_isValidated_tokens, code);
+    return find_token(tokens::BaseKestoType_2_isValidated, code);
 }
 
 int32_t BaseConsoleType_usage_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(BaseConsoleType_usage_tokens, text, length, code);
+    return find_code(tokens::BaseConsoleType_usage, text, length, code);
 }
 
 const char *BaseConsoleType_usage_ToString(uint32_t code)
 {
-    return find_token(BaseConsoleType_usage_tokens, code);
+    return find_token(tokens::BaseConsoleType_usage, code);
 }
 
 int32_t PEMType_2_faultStatus_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PEMType_2_faultStatus_tokens, text, length, code);
+    return find_code(tokens::PEMType_2_faultStatus, text, length, code);
 }
 
 const char *PEMType_2_faultStatus_ToString(uint32_t code)
 {
-    return find_token(PEMType_2_faultStatus_tokens, code);
+    return find_token(tokens::PEMType_2_faultStatus, code);
 }
 
 int32_t PEMType_2_psmState_ToEnum(const char *text, int32_t length, uint32_t *code)
 {
-    return find_code(PEMType_2_psmState_tokens, text, length, code);
+    return find_code(tokens::PEMType_2_psmState, text, length, code);
 }
 
 const char *PEMType_2_psmState_ToString(uint32_t code)
 {
-    return find_token(PEMType_2_psmState_tokens, code);
+    return find_token(tokens::PEMType_2_psmState, code);
 }
 
 void Init_NodeInfoType(NodeInfoType *record)

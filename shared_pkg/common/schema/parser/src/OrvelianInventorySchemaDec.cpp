@@ -7,30 +7,86 @@
 
 using namespace inv::decode;
 
+namespace inv::decode::tokens
+{
+
+extern const enumeration ReplicationLevelsType;
+extern const enumeration EntityOwnerType;
+extern const enumeration EntitySelectionType;
+extern const enumeration EidType;
+extern const enumeration EidSubType;
+extern const enumeration MemAccessSpeedUnit;
+extern const enumeration CyclesPerSecUnit;
+extern const enumeration HardwareModelType;
+extern const enumeration LinkApplicableType;
+extern const enumeration SequenceType;
+extern const enumeration I2cDeviceType;
+extern const enumeration PowerZonesValuesType;
+extern const enumeration PciGen;
+extern const enumeration PhyType;
+extern const enumeration EsdPortDestType;
+extern const enumeration PortState;
+extern const enumeration MdioSpeed;
+extern const enumeration LocalSwitching;
+extern const enumeration SerdesParamsType;
+extern const enumeration SfpControllerType;
+extern const enumeration EsdDevVlanType;
+extern const enumeration EsdDevClientType;
+extern const enumeration PortSpeedType;
+extern const enumeration PortModeType;
+extern const enumeration BaseLedColorsType;
+extern const enumeration BaseLedControlType;
+extern const enumeration PortUsageType;
+extern const enumeration EepromUsageType;
+extern const enumeration NodeInfoType_nodeType;
+extern const enumeration I2cPortType_portType;
+extern const enumeration PCIeNodeType_deviceType;
+extern const enumeration BaseContainerListType_containerType;
+extern const enumeration BaseStorageMemoryMap_memoryUsage;
+extern const enumeration BaseEntityType_adminState;
+extern const enumeration BaseEntityType_operState;
+extern const enumeration BaseEntityType_powerAdminState;
+extern const enumeration BaseEntityType_powerOperState;
+extern const enumeration BaseEntityType_dualRouter;
+extern const enumeration BaseSensorType_2_unit;
+extern const enumeration BaseSensorType_2_userDefinedUnit;
+extern const enumeration BaseSensorType_2_scale;
+extern const enumeration BaseVoltageMarginType_2_operation;
+extern const enumeration BaseKestoType_2_isValidated;
+extern const enumeration BaseConsoleType_usage;
+extern const enumeration PEMType_2_faultStatus;
+extern const enumeration PEMType_2_psmState;
+
+}  // namespace inv::decode::tokens
+
 namespace
 {
 
 constexpr item NodeInfoType_items[] = {
     {.name = "nodeType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(NodeInfoType, nodeType), .decode = child<XmlDT_NodeInfoType_nodeType>},
+     .offset = offsetof(NodeInfoType, nodeType), .decode = child<XmlDT_NodeInfoType_nodeType>,
+     .tokens = &tokens::NodeInfoType_nodeType},
     {.name = "nodePosition", .kind = item_kind::int16, .occurs = occurrence::optional,
      .offset = offsetof(NodeInfoType, nodePosition), .present = bit(offsetof(NodeInfoType, has), 0)},
 };
 constexpr auto NodeInfoType_elements = element_rows(NodeInfoType_items);
 constexpr auto NodeInfoType_sequence = sequence_rows(NodeInfoType_items);
+constexpr auto NodeInfoType_values = plain_rows(NodeInfoType_items);
 constexpr type_description NodeInfoType_description = {
     .name = "NodeInfoType",
     .first_step = 1000,
     .xmlns = offsetof(NodeInfoType, xmlns),
-    .content = content_of(NodeInfoType_items, NodeInfoType_sequence, NodeInfoType_elements),
+    .content = content_of(NodeInfoType_items, NodeInfoType_sequence, NodeInfoType_elements,
+        NodeInfoType_values),
 };
 
 constexpr item I2cNodeType_items[] = {
     {.name = "deviceType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(I2cNodeType, deviceType), .decode = child<XmlDT_I2cDeviceType>},
+     .offset = offsetof(I2cNodeType, deviceType), .decode = child<XmlDT_I2cDeviceType>,
+     .tokens = &tokens::I2cDeviceType},
     {.name = "deviceModel", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(I2cNodeType, deviceModel), .present = bit(offsetof(I2cNodeType, has), 0),
-     .decode = child<XmlDT_HardwareModelType>},
+     .decode = child<XmlDT_HardwareModelType>, .tokens = &tokens::HardwareModelType},
     {.name = "deviceAddress", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(I2cNodeType, deviceAddress), .present = bit(offsetof(I2cNodeType, has), 1),
      .decode = child<XmlDT_Hex8BitHexAddressType>},
@@ -53,19 +109,21 @@ constexpr item I2cNodeType_items[] = {
 };
 constexpr auto I2cNodeType_elements = element_rows(I2cNodeType_items);
 constexpr auto I2cNodeType_sequence = sequence_rows(I2cNodeType_items);
+constexpr auto I2cNodeType_values = plain_rows(I2cNodeType_items);
 constexpr type_description I2cNodeType_description = {
     .name = "I2cNodeType",
     .first_step = 2000,
     .xmlns = offsetof(I2cNodeType, xmlns),
-    .content = content_of(I2cNodeType_items, I2cNodeType_sequence, I2cNodeType_elements),
+    .content = content_of(I2cNodeType_items, I2cNodeType_sequence, I2cNodeType_elements, I2cNodeType_values),
 };
 
 constexpr item I2cSequenceType_items[] = {
     {.name = "applicable", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(I2cSequenceType, applicable), .present = bit(offsetof(I2cSequenceType, has), 0),
-     .decode = child<XmlDT_LinkApplicableType>},
+     .decode = child<XmlDT_LinkApplicableType>, .tokens = &tokens::LinkApplicableType},
     {.name = "seqType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(I2cSequenceType, seqType), .decode = child<XmlDT_SequenceType>},
+     .offset = offsetof(I2cSequenceType, seqType), .decode = child<XmlDT_SequenceType>,
+     .tokens = &tokens::SequenceType},
     {.name = "description", .kind = item_kind::text, .occurs = occurrence::required,
      .offset = offsetof(I2cSequenceType, description)},
     {.name = "srcInfo", .kind = item_kind::record, .occurs = occurrence::optional,
@@ -80,33 +138,38 @@ constexpr item I2cSequenceType_items[] = {
 };
 constexpr auto I2cSequenceType_elements = element_rows(I2cSequenceType_items);
 constexpr auto I2cSequenceType_sequence = sequence_rows(I2cSequenceType_items);
+constexpr auto I2cSequenceType_values = plain_rows(I2cSequenceType_items);
 constexpr type_description I2cSequenceType_description = {
     .name = "I2cSequenceType",
     .first_step = 3000,
     .xmlns = offsetof(I2cSequenceType, xmlns),
-    .content = content_of(I2cSequenceType_items, I2cSequenceType_sequence, I2cSequenceType_elements),
+    .content = content_of(I2cSequenceType_items, I2cSequenceType_sequence, I2cSequenceType_elements,
+        I2cSequenceType_values),
 };
 
 constexpr item I2cDestType_items[] = {
     {.name = "description", .kind = item_kind::text, .occurs = occurrence::required,
      .offset = offsetof(I2cDestType, description)},
     {.name = "applicable", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(I2cDestType, applicable), .decode = child<XmlDT_LinkApplicableType>},
+     .offset = offsetof(I2cDestType, applicable), .decode = child<XmlDT_LinkApplicableType>,
+     .tokens = &tokens::LinkApplicableType},
     {.name = "nodeInfo", .kind = item_kind::record, .occurs = occurrence::required,
      .offset = offsetof(I2cDestType, nodeInfo), .decode = child<XmlDT_NodeInfoType>},
 };
 constexpr auto I2cDestType_elements = element_rows(I2cDestType_items);
 constexpr auto I2cDestType_sequence = sequence_rows(I2cDestType_items);
+constexpr auto I2cDestType_values = plain_rows(I2cDestType_items);
 constexpr type_description I2cDestType_description = {
     .name = "I2cDestType",
     .first_step = 4000,
     .xmlns = offsetof(I2cDestType, xmlns),
-    .content = content_of(I2cDestType_items, I2cDestType_sequence, I2cDestType_elements),
+    .content = content_of(I2cDestType_items, I2cDestType_sequence, I2cDestType_elements, I2cDestType_values),
 };
 
 constexpr item I2cPortType_items[] = {
     {.name = "portType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(I2cPortType, portType), .decode = child<XmlDT_I2cPortType_portType>},
+     .offset = offsetof(I2cPortType, portType), .decode = child<XmlDT_I2cPortType_portType>,
+     .tokens = &tokens::I2cPortType_portType},
     {.name = "channelNumber", .kind = item_kind::octets, .occurs = occurrence::required,
      .offset = offsetof(I2cPortType, channelNumber)},
     {.name = "dstInfo", .kind = item_kind::record, .occurs = occurrence::repeated,
@@ -115,19 +178,21 @@ constexpr item I2cPortType_items[] = {
 };
 constexpr auto I2cPortType_elements = element_rows(I2cPortType_items);
 constexpr auto I2cPortType_sequence = sequence_rows(I2cPortType_items);
+constexpr auto I2cPortType_values = plain_rows(I2cPortType_items);
 constexpr type_description I2cPortType_description = {
     .name = "I2cPortType",
     .first_step = 5000,
     .xmlns = offsetof(I2cPortType, xmlns),
-    .content = content_of(I2cPortType_items, I2cPortType_sequence, I2cPortType_elements),
+    .content = content_of(I2cPortType_items, I2cPortType_sequence, I2cPortType_elements, I2cPortType_values),
 };
 
 constexpr item PCIeNodeType_items[] = {
     {.name = "deviceModel", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(PCIeNodeType, deviceModel), .present = bit(offsetof(PCIeNodeType, has), 0),
-     .decode = child<XmlDT_HardwareModelType>},
+     .decode = child<XmlDT_HardwareModelType>, .tokens = &tokens::HardwareModelType},
     {.name = "deviceType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PCIeNodeType, deviceType), .decode = child<XmlDT_PCIeNodeType_deviceType>},
+     .offset = offsetof(PCIeNodeType, deviceType), .decode = child<XmlDT_PCIeNodeType_deviceType>,
+     .tokens = &tokens::PCIeNodeType_deviceType},
     {.name = "portNumber", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(PCIeNodeType, portNumber), .present = bit(offsetof(PCIeNodeType, has), 1),
      .decode = child<XmlDT_Hex8BitHexAddressType>},
@@ -136,11 +201,13 @@ constexpr item PCIeNodeType_items[] = {
 };
 constexpr auto PCIeNodeType_elements = element_rows(PCIeNodeType_items);
 constexpr auto PCIeNodeType_sequence = sequence_rows(PCIeNodeType_items);
+constexpr auto PCIeNodeType_values = plain_rows(PCIeNodeType_items);
 constexpr type_description PCIeNodeType_description = {
     .name = "PCIeNodeType",
     .first_step = 6000,
     .xmlns = offsetof(PCIeNodeType, xmlns),
-    .content = content_of(PCIeNodeType_items, PCIeNodeType_sequence, PCIeNodeType_elements),
+    .content = content_of(PCIeNodeType_items, PCIeNodeType_sequence, PCIeNodeType_elements,
+        PCIeNodeType_values),
 };
 
 constexpr item PciSequenceType_items[] = {
@@ -148,7 +215,7 @@ constexpr item PciSequenceType_items[] = {
      .offset = offsetof(PciSequenceType, pdNotes)},
     {.name = "applicable", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(PciSequenceType, applicable), .present = bit(offsetof(PciSequenceType, has), 0),
-     .decode = child<XmlDT_LinkApplicableType>},
+     .decode = child<XmlDT_LinkApplicableType>, .tokens = &tokens::LinkApplicableType},
     {.name = "description", .kind = item_kind::text, .occurs = occurrence::required,
      .offset = offsetof(PciSequenceType, description)},
     {.name = "dstPci", .kind = item_kind::record, .occurs = occurrence::optional,
@@ -162,11 +229,13 @@ constexpr item PciSequenceType_items[] = {
 };
 constexpr auto PciSequenceType_elements = element_rows(PciSequenceType_items);
 constexpr auto PciSequenceType_sequence = sequence_rows(PciSequenceType_items);
+constexpr auto PciSequenceType_values = plain_rows(PciSequenceType_items);
 constexpr type_description PciSequenceType_description = {
     .name = "PciSequenceType",
     .first_step = 7000,
     .xmlns = offsetof(PciSequenceType, xmlns),
-    .content = content_of(PciSequenceType_items, PciSequenceType_sequence, PciSequenceType_elements),
+    .content = content_of(PciSequenceType_items, PciSequenceType_sequence, PciSequenceType_elements,
+        PciSequenceType_values),
 };
 
 constexpr item PMBusPortType_items[] = {
@@ -175,11 +244,13 @@ constexpr item PMBusPortType_items[] = {
 };
 constexpr auto PMBusPortType_elements = element_rows(PMBusPortType_items);
 constexpr auto PMBusPortType_sequence = sequence_rows(PMBusPortType_items);
+constexpr auto PMBusPortType_values = plain_rows(PMBusPortType_items);
 constexpr type_description PMBusPortType_description = {
     .name = "PMBusPortType",
     .first_step = 8000,
     .xmlns = offsetof(PMBusPortType, xmlns),
-    .content = content_of(PMBusPortType_items, PMBusPortType_sequence, PMBusPortType_elements),
+    .content = content_of(PMBusPortType_items, PMBusPortType_sequence, PMBusPortType_elements,
+        PMBusPortType_values),
 };
 
 constexpr item SpiDestType_items[] = {
@@ -191,11 +262,12 @@ constexpr item SpiDestType_items[] = {
 };
 constexpr auto SpiDestType_elements = element_rows(SpiDestType_items);
 constexpr auto SpiDestType_sequence = sequence_rows(SpiDestType_items);
+constexpr auto SpiDestType_values = plain_rows(SpiDestType_items);
 constexpr type_description SpiDestType_description = {
     .name = "SpiDestType",
     .first_step = 9000,
     .xmlns = offsetof(SpiDestType, xmlns),
-    .content = content_of(SpiDestType_items, SpiDestType_sequence, SpiDestType_elements),
+    .content = content_of(SpiDestType_items, SpiDestType_sequence, SpiDestType_elements, SpiDestType_values),
 };
 
 constexpr item SpiPortType_items[] = {
@@ -207,18 +279,20 @@ constexpr item SpiPortType_items[] = {
 };
 constexpr auto SpiPortType_elements = element_rows(SpiPortType_items);
 constexpr auto SpiPortType_sequence = sequence_rows(SpiPortType_items);
+constexpr auto SpiPortType_values = plain_rows(SpiPortType_items);
 constexpr type_description SpiPortType_description = {
     .name = "SpiPortType",
     .first_step = 10000,
     .xmlns = offsetof(SpiPortType, xmlns),
-    .content = content_of(SpiPortType_items, SpiPortType_sequence, SpiPortType_elements),
+    .content = content_of(SpiPortType_items, SpiPortType_sequence, SpiPortType_elements, SpiPortType_values),
 };
 
 constexpr item PCIeDestType_items[] = {
     {.name = "description", .kind = item_kind::text, .occurs = occurrence::required,
      .offset = offsetof(PCIeDestType, description)},
     {.name = "applicable", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PCIeDestType, applicable), .decode = child<XmlDT_LinkApplicableType>},
+     .offset = offsetof(PCIeDestType, applicable), .decode = child<XmlDT_LinkApplicableType>,
+     .tokens = &tokens::LinkApplicableType},
     {.name = "deviceId", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(PCIeDestType, deviceId), .present = bit(offsetof(PCIeDestType, has), 0),
      .decode = child<XmlDT_Hex32BitHexAddressType>},
@@ -227,11 +301,13 @@ constexpr item PCIeDestType_items[] = {
 };
 constexpr auto PCIeDestType_elements = element_rows(PCIeDestType_items);
 constexpr auto PCIeDestType_sequence = sequence_rows(PCIeDestType_items);
+constexpr auto PCIeDestType_values = plain_rows(PCIeDestType_items);
 constexpr type_description PCIeDestType_description = {
     .name = "PCIeDestType",
     .first_step = 11000,
     .xmlns = offsetof(PCIeDestType, xmlns),
-    .content = content_of(PCIeDestType_items, PCIeDestType_sequence, PCIeDestType_elements),
+    .content = content_of(PCIeDestType_items, PCIeDestType_sequence, PCIeDestType_elements,
+        PCIeDestType_values),
 };
 
 constexpr item BasePCIePortType_items[] = {
@@ -248,7 +324,7 @@ constexpr item BasePCIePortType_items[] = {
      .offset = offsetof(BasePCIePortType, portNumber), .decode = child<XmlDT_Hex8BitHexAddressType>},
     {.name = "pciGen", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BasePCIePortType, pciGen), .present = bit(offsetof(BasePCIePortType, has), 4),
-     .decode = child<XmlDT_PciGen>},
+     .decode = child<XmlDT_PciGen>, .tokens = &tokens::PciGen},
     {.name = "pciLink", .kind = item_kind::record, .occurs = occurrence::repeated,
      .offset = offsetof(BasePCIePortType, pciLink), .node_size = sizeof(PciSequenceType),
      .init = init<Init_PciSequenceType>, .decode = child<XmlDT_PciSequenceType>},
@@ -258,11 +334,13 @@ constexpr item BasePCIePortType_items[] = {
 };
 constexpr auto BasePCIePortType_elements = element_rows(BasePCIePortType_items);
 constexpr auto BasePCIePortType_sequence = sequence_rows(BasePCIePortType_items);
+constexpr auto BasePCIePortType_values = plain_rows(BasePCIePortType_items);
 constexpr type_description BasePCIePortType_description = {
     .name = "BasePCIePortType",
     .first_step = 12000,
     .xmlns = offsetof(BasePCIePortType, xmlns),
-    .content = content_of(BasePCIePortType_items, BasePCIePortType_sequence, BasePCIePortType_elements),
+    .content = content_of(BasePCIePortType_items, BasePCIePortType_sequence, BasePCIePortType_elements,
+        BasePCIePortType_values),
 };
 
 constexpr auto HardwareRegistersType_attributes = std::to_array<item>({
@@ -274,11 +352,13 @@ constexpr auto HardwareRegistersType_attributes = std::to_array<item>({
      .present = bit(offsetof(HardwareRegistersType, has), 1)},
 });
 constexpr auto HardwareRegistersType_attribute_names = attribute_rows(HardwareRegistersType_attributes);
+constexpr auto HardwareRegistersType_attribute_values = plain_rows(HardwareRegistersType_attributes);
 constexpr type_description HardwareRegistersType_description = {
     .name = "HardwareRegistersType",
     .first_step = 13000,
     .xmlns = offsetof(HardwareRegistersType, xmlns),
-    .attributes = attributes_of(HardwareRegistersType_attributes, HardwareRegistersType_attribute_names),
+    .attributes = attributes_of(HardwareRegistersType_attributes, HardwareRegistersType_attribute_names,
+        HardwareRegistersType_attribute_values),
 };
 
 constexpr item HwSignalsType_items[] = {
@@ -296,11 +376,13 @@ constexpr item HwSignalsType_items[] = {
 };
 constexpr auto HwSignalsType_elements = element_rows(HwSignalsType_items);
 constexpr auto HwSignalsType_sequence = sequence_rows(HwSignalsType_items);
+constexpr auto HwSignalsType_values = plain_rows(HwSignalsType_items);
 constexpr type_description HwSignalsType_description = {
     .name = "HwSignalsType",
     .first_step = 14000,
     .xmlns = offsetof(HwSignalsType, xmlns),
-    .content = content_of(HwSignalsType_items, HwSignalsType_sequence, HwSignalsType_elements),
+    .content = content_of(HwSignalsType_items, HwSignalsType_sequence, HwSignalsType_elements,
+        HwSignalsType_values),
 };
 
 constexpr item PowerConsumerType_items[] = {
@@ -318,15 +400,18 @@ constexpr item PowerConsumerType_items[] = {
     {.name = "powerUsage", .kind = item_kind::uint32, .occurs = occurrence::optional,
      .offset = offsetof(PowerConsumerType, powerUsage), .present = bit(offsetof(PowerConsumerType, has), 3)},
     {.name = "powerZone", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PowerConsumerType, powerZone), .decode = child<XmlDT_PowerZonesValuesType>},
+     .offset = offsetof(PowerConsumerType, powerZone), .decode = child<XmlDT_PowerZonesValuesType>,
+     .tokens = &tokens::PowerZonesValuesType},
 };
 constexpr auto PowerConsumerType_elements = element_rows(PowerConsumerType_items);
 constexpr auto PowerConsumerType_sequence = sequence_rows(PowerConsumerType_items);
+constexpr auto PowerConsumerType_values = plain_rows(PowerConsumerType_items);
 constexpr type_description PowerConsumerType_description = {
     .name = "PowerConsumerType",
     .first_step = 15000,
     .xmlns = offsetof(PowerConsumerType, xmlns),
-    .content = content_of(PowerConsumerType_items, PowerConsumerType_sequence, PowerConsumerType_elements),
+    .content = content_of(PowerConsumerType_items, PowerConsumerType_sequence, PowerConsumerType_elements,
+        PowerConsumerType_values),
 };
 
 constexpr item PowerProducerType_items[] = {
@@ -339,11 +424,13 @@ constexpr item PowerProducerType_items[] = {
 };
 constexpr auto PowerProducerType_elements = element_rows(PowerProducerType_items);
 constexpr auto PowerProducerType_sequence = sequence_rows(PowerProducerType_items);
+constexpr auto PowerProducerType_values = plain_rows(PowerProducerType_items);
 constexpr type_description PowerProducerType_description = {
     .name = "PowerProducerType",
     .first_step = 16000,
     .xmlns = offsetof(PowerProducerType, xmlns),
-    .content = content_of(PowerProducerType_items, PowerProducerType_sequence, PowerProducerType_elements),
+    .content = content_of(PowerProducerType_items, PowerProducerType_sequence, PowerProducerType_elements,
+        PowerProducerType_values),
 };
 
 constexpr item PowerZoneType_items[] = {
@@ -352,7 +439,8 @@ constexpr item PowerZoneType_items[] = {
     {.name = "description", .kind = item_kind::text, .occurs = occurrence::optional,
      .offset = offsetof(PowerZoneType, description), .present = bit(offsetof(PowerZoneType, has), 0)},
     {.name = "zone", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PowerZoneType, zone), .decode = child<XmlDT_PowerZonesValuesType>},
+     .offset = offsetof(PowerZoneType, zone), .decode = child<XmlDT_PowerZonesValuesType>,
+     .tokens = &tokens::PowerZonesValuesType},
     {.name = "powerOnOffCapability", .kind = item_kind::boolean, .occurs = occurrence::required,
      .offset = offsetof(PowerZoneType, powerOnOffCapability)},
     {.name = "powerApplied", .kind = item_kind::boolean, .occurs = occurrence::required,
@@ -366,11 +454,13 @@ constexpr item PowerZoneType_items[] = {
 };
 constexpr auto PowerZoneType_elements = element_rows(PowerZoneType_items);
 constexpr auto PowerZoneType_sequence = sequence_rows(PowerZoneType_items);
+constexpr auto PowerZoneType_values = plain_rows(PowerZoneType_items);
 constexpr type_description PowerZoneType_description = {
     .name = "PowerZoneType",
     .first_step = 17000,
     .xmlns = offsetof(PowerZoneType, xmlns),
-    .content = content_of(PowerZoneType_items, PowerZoneType_sequence, PowerZoneType_elements),
+    .content = content_of(PowerZoneType_items, PowerZoneType_sequence, PowerZoneType_elements,
+        PowerZoneType_values),
 };
 
 constexpr item PowerInfoType_items[] = {
@@ -385,32 +475,39 @@ constexpr item PowerInfoType_items[] = {
 };
 constexpr auto PowerInfoType_elements = element_rows(PowerInfoType_items);
 constexpr auto PowerInfoType_sequence = sequence_rows(PowerInfoType_items);
+constexpr auto PowerInfoType_values = plain_rows(PowerInfoType_items);
 constexpr type_description PowerInfoType_description = {
     .name = "PowerInfoType",
     .first_step = 18000,
     .xmlns = offsetof(PowerInfoType, xmlns),
-    .content = content_of(PowerInfoType_items, PowerInfoType_sequence, PowerInfoType_elements),
+    .content = content_of(PowerInfoType_items, PowerInfoType_sequence, PowerInfoType_elements,
+        PowerInfoType_values),
 };
 
 constexpr item BaseLedInfoType_items[] = {
     {.name = "color", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseLedInfoType, color), .decode = child<XmlDT_BaseLedColorsType>},
+     .offset = offsetof(BaseLedInfoType, color), .decode = child<XmlDT_BaseLedColorsType>,
+     .tokens = &tokens::BaseLedColorsType},
     {.name = "control", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseLedInfoType, control), .decode = child<XmlDT_BaseLedControlType>},
+     .offset = offsetof(BaseLedInfoType, control), .decode = child<XmlDT_BaseLedControlType>,
+     .tokens = &tokens::BaseLedControlType},
 };
 constexpr auto BaseLedInfoType_elements = element_rows(BaseLedInfoType_items);
 constexpr auto BaseLedInfoType_sequence = sequence_rows(BaseLedInfoType_items);
+constexpr auto BaseLedInfoType_values = plain_rows(BaseLedInfoType_items);
 constexpr type_description BaseLedInfoType_description = {
     .name = "BaseLedInfoType",
     .first_step = 19000,
     .xmlns = offsetof(BaseLedInfoType, xmlns),
-    .content = content_of(BaseLedInfoType_items, BaseLedInfoType_sequence, BaseLedInfoType_elements),
+    .content = content_of(BaseLedInfoType_items, BaseLedInfoType_sequence, BaseLedInfoType_elements,
+        BaseLedInfoType_values),
 };
 
 constexpr item BaseContainerListType_items[] = {
     {.name = "containerType", .kind = item_kind::simple, .occurs = occurrence::required,
      .offset = offsetof(BaseContainerListType, containerType),
-     .decode = child<XmlDT_BaseContainerListType_containerType>},
+     .decode = child<XmlDT_BaseContainerListType_containerType>,
+     .tokens = &tokens::BaseContainerListType_containerType},
     {.name = "maxContainers", .kind = item_kind::int16, .occurs = occurrence::required,
      .offset = offsetof(BaseContainerListType, maxContainers)},
     {.name = "pdNotes", .kind = item_kind::text, .occurs = occurrence::repeated,
@@ -435,12 +532,13 @@ constexpr item BaseContainerListType_items[] = {
 };
 constexpr auto BaseContainerListType_elements = element_rows(BaseContainerListType_items);
 constexpr auto BaseContainerListType_sequence = sequence_rows(BaseContainerListType_items);
+constexpr auto BaseContainerListType_values = plain_rows(BaseContainerListType_items);
 constexpr type_description BaseContainerListType_description = {
     .name = "BaseContainerListType",
     .first_step = 20000,
     .xmlns = offsetof(BaseContainerListType, xmlns),
     .content = content_of(BaseContainerListType_items, BaseContainerListType_sequence,
-        BaseContainerListType_elements),
+        BaseContainerListType_elements, BaseContainerListType_values),
 };
 
 constexpr auto BaseThresholdType_attributes = std::to_array<item>({
@@ -458,17 +556,20 @@ constexpr auto BaseThresholdType_attributes = std::to_array<item>({
      .offset = offsetof(BaseThresholdType, criticalHigh)},
 });
 constexpr auto BaseThresholdType_attribute_names = attribute_rows(BaseThresholdType_attributes);
+constexpr auto BaseThresholdType_attribute_values = plain_rows(BaseThresholdType_attributes);
 constexpr type_description BaseThresholdType_description = {
     .name = "BaseThresholdType",
     .first_step = 21000,
     .xmlns = offsetof(BaseThresholdType, xmlns),
-    .attributes = attributes_of(BaseThresholdType_attributes, BaseThresholdType_attribute_names),
+    .attributes = attributes_of(BaseThresholdType_attributes, BaseThresholdType_attribute_names,
+        BaseThresholdType_attribute_values),
 };
 
 constexpr item BaseStorageMemoryMap_items[] = {
     {.name = "memoryUsage", .kind = item_kind::simple, .occurs = occurrence::required,
      .offset = offsetof(BaseStorageMemoryMap, memoryUsage),
-     .decode = child<XmlDT_BaseStorageMemoryMap_memoryUsage>},
+     .decode = child<XmlDT_BaseStorageMemoryMap_memoryUsage>,
+     .tokens = &tokens::BaseStorageMemoryMap_memoryUsage},
     {.name = "blocks", .kind = item_kind::uint32, .occurs = occurrence::required,
      .offset = offsetof(BaseStorageMemoryMap, blocks)},
     {.name = "startAddr", .kind = item_kind::octets, .occurs = occurrence::required,
@@ -478,12 +579,13 @@ constexpr item BaseStorageMemoryMap_items[] = {
 };
 constexpr auto BaseStorageMemoryMap_elements = element_rows(BaseStorageMemoryMap_items);
 constexpr auto BaseStorageMemoryMap_sequence = sequence_rows(BaseStorageMemoryMap_items);
+constexpr auto BaseStorageMemoryMap_values = plain_rows(BaseStorageMemoryMap_items);
 constexpr type_description BaseStorageMemoryMap_description = {
     .name = "BaseStorageMemoryMap",
     .first_step = 22000,
     .xmlns = offsetof(BaseStorageMemoryMap, xmlns),
     .content = content_of(BaseStorageMemoryMap_items, BaseStorageMemoryMap_sequence,
-        BaseStorageMemoryMap_elements),
+        BaseStorageMemoryMap_elements, BaseStorageMemoryMap_values),
 };
 
 constexpr item BaseControlInfoType_items[] = {
@@ -492,12 +594,13 @@ constexpr item BaseControlInfoType_items[] = {
 };
 constexpr auto BaseControlInfoType_elements = element_rows(BaseControlInfoType_items);
 constexpr auto BaseControlInfoType_sequence = sequence_rows(BaseControlInfoType_items);
+constexpr auto BaseControlInfoType_values = plain_rows(BaseControlInfoType_items);
 constexpr type_description BaseControlInfoType_description = {
     .name = "BaseControlInfoType",
     .first_step = 23000,
     .xmlns = offsetof(BaseControlInfoType, xmlns),
     .content = content_of(BaseControlInfoType_items, BaseControlInfoType_sequence,
-        BaseControlInfoType_elements),
+        BaseControlInfoType_elements, BaseControlInfoType_values),
 };
 
 constexpr type_description SwitchPortMapType_description = {
@@ -515,40 +618,44 @@ constexpr auto BaseEntityType_attributes = std::to_array<item>({
      .offset = offsetof(BaseEntityType, oid), .present = bit(offsetof(BaseEntityType, has), 1)},
     {.name = "adminState", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, adminState), .present = bit(offsetof(BaseEntityType, has), 2),
-     .decode = child<XmlDT_BaseEntityType_adminState>},
+     .decode = child<XmlDT_BaseEntityType_adminState>, .tokens = &tokens::BaseEntityType_adminState},
     {.name = "operState", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, operState), .present = bit(offsetof(BaseEntityType, has), 3),
-     .decode = child<XmlDT_BaseEntityType_operState>},
+     .decode = child<XmlDT_BaseEntityType_operState>, .tokens = &tokens::BaseEntityType_operState},
     {.name = "powerAdminState", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, powerAdminState), .present = bit(offsetof(BaseEntityType, has), 4),
-     .decode = child<XmlDT_BaseEntityType_powerAdminState>},
+     .decode = child<XmlDT_BaseEntityType_powerAdminState>,
+     .tokens = &tokens::BaseEntityType_powerAdminState},
     {.name = "powerOperState", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, powerOperState), .present = bit(offsetof(BaseEntityType, has), 5),
-     .decode = child<XmlDT_BaseEntityType_powerOperState>},
+     .decode = child<XmlDT_BaseEntityType_powerOperState>, .tokens = &tokens::BaseEntityType_powerOperState},
     {.name = "dualRouter", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, dualRouter), .present = bit(offsetof(BaseEntityType, has), 6),
-     .decode = child<XmlDT_BaseEntityType_dualRouter>},
+     .decode = child<XmlDT_BaseEntityType_dualRouter>, .tokens = &tokens::BaseEntityType_dualRouter},
     {.name = "fruable", .kind = item_kind::boolean, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, fruable), .present = bit(offsetof(BaseEntityType, has), 7)},
     {.name = "oir", .kind = item_kind::boolean, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, oir), .present = bit(offsetof(BaseEntityType, has), 8)},
     {.name = "type", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseEntityType, type), .decode = child<XmlDT_EidType>},
+     .offset = offsetof(BaseEntityType, type), .decode = child<XmlDT_EidType>, .tokens = &tokens::EidType},
     {.name = "subtype", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseEntityType, subtype), .decode = child<XmlDT_EidSubType>},
+     .offset = offsetof(BaseEntityType, subtype), .decode = child<XmlDT_EidSubType>,
+     .tokens = &tokens::EidSubType},
     {.name = "instance", .kind = item_kind::int16, .occurs = occurrence::required,
      .offset = offsetof(BaseEntityType, instance)},
     {.name = "replicationScope", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseEntityType, replicationScope), .decode = child<XmlDT_ReplicationLevelsType>},
+     .offset = offsetof(BaseEntityType, replicationScope), .decode = child<XmlDT_ReplicationLevelsType>,
+     .tokens = &tokens::ReplicationLevelsType},
     {.name = "entitySelect", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, entitySelect), .present = bit(offsetof(BaseEntityType, has), 9),
-     .decode = child<XmlDT_EntitySelectionType>},
+     .decode = child<XmlDT_EntitySelectionType>, .tokens = &tokens::EntitySelectionType},
     {.name = "replicationStateScope", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, replicationStateScope),
-     .present = bit(offsetof(BaseEntityType, has), 10), .decode = child<XmlDT_ReplicationLevelsType>},
+     .present = bit(offsetof(BaseEntityType, has), 10), .decode = child<XmlDT_ReplicationLevelsType>,
+     .tokens = &tokens::ReplicationLevelsType},
     {.name = "entityOwner", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, entityOwner), .present = bit(offsetof(BaseEntityType, has), 11),
-     .decode = child<XmlDT_EntityOwnerType>},
+     .decode = child<XmlDT_EntityOwnerType>, .tokens = &tokens::EntityOwnerType},
     {.name = "snmpEntity", .kind = item_kind::boolean, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, snmpEntity), .present = bit(offsetof(BaseEntityType, has), 12)},
     {.name = "isPrimary", .kind = item_kind::boolean, .occurs = occurrence::optional,
@@ -567,6 +674,7 @@ constexpr auto BaseEntityType_attributes = std::to_array<item>({
      .offset = offsetof(BaseEntityType, resetNoData), .present = bit(offsetof(BaseEntityType, has), 18)},
 });
 constexpr auto BaseEntityType_attribute_names = attribute_rows(BaseEntityType_attributes);
+constexpr auto BaseEntityType_attribute_values = plain_rows(BaseEntityType_attributes);
 constexpr item BaseEntityType_items[] = {
     {.name = "pdNotes", .kind = item_kind::text, .occurs = occurrence::repeated,
      .offset = offsetof(BaseEntityType, pdNotes)},
@@ -588,7 +696,7 @@ constexpr item BaseEntityType_items[] = {
      .offset = offsetof(BaseEntityType, firmwareVersion), .present = bit(offsetof(BaseEntityType, has), 24)},
     {.name = "pdHardwareModel", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, pdHardwareModel), .present = bit(offsetof(BaseEntityType, has), 25),
-     .decode = child<XmlDT_HardwareModelType>},
+     .decode = child<XmlDT_HardwareModelType>, .tokens = &tokens::HardwareModelType},
     {.name = "hwSignals", .kind = item_kind::record, .occurs = occurrence::optional,
      .offset = offsetof(BaseEntityType, hwSignals), .present = bit(offsetof(BaseEntityType, has), 26),
      .decode = child<XmlDT_HwSignalsType>},
@@ -621,13 +729,16 @@ constexpr item BaseEntityType_items[] = {
 };
 constexpr auto BaseEntityType_elements = element_rows(BaseEntityType_items);
 constexpr auto BaseEntityType_sequence = sequence_rows(BaseEntityType_items);
+constexpr auto BaseEntityType_values = plain_rows(BaseEntityType_items);
 constexpr auto BaseEntityType_inherited = base_group_rows(BaseEntityType_items);
 constexpr type_description BaseEntityType_description = {
     .name = "BaseEntityType",
     .first_step = 25000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseEntityType_items, BaseEntityType_sequence, BaseEntityType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseEntityType_items, BaseEntityType_sequence, BaseEntityType_elements,
+        BaseEntityType_values),
 };
 
 constexpr item BaseLEDType_2_items[] = {
@@ -644,11 +755,13 @@ constexpr item BaseLEDType_2_items[] = {
 };
 constexpr auto BaseLEDType_2_elements = element_rows(BaseLEDType_2_items);
 constexpr auto BaseLEDType_2_sequence = sequence_rows(BaseLEDType_2_items);
+constexpr auto BaseLEDType_2_values = plain_rows(BaseLEDType_2_items);
 constexpr type_description BaseLEDType_2_description = {
     .name = "BaseLEDType_2",
     .first_step = 27000,
     .is_extension = true,
-    .content = content_of(BaseLEDType_2_items, BaseLEDType_2_sequence, BaseLEDType_2_elements),
+    .content = content_of(BaseLEDType_2_items, BaseLEDType_2_sequence, BaseLEDType_2_elements,
+        BaseLEDType_2_values),
 };
 
 constexpr item BaseLEDType_items[] = {
@@ -660,12 +773,14 @@ constexpr item BaseLEDType_items[] = {
 };
 constexpr auto BaseLEDType_elements = joined(BaseEntityType_inherited, leading_rows<BaseLEDType_2_items>());
 constexpr auto BaseLEDType_sequence = sequence_rows(BaseLEDType_items);
+constexpr auto BaseLEDType_values = plain_rows(BaseLEDType_items);
 constexpr type_description BaseLEDType_description = {
     .name = "BaseLEDType",
     .first_step = 26000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseLEDType_items, BaseLEDType_sequence, BaseLEDType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseLEDType_items, BaseLEDType_sequence, BaseLEDType_elements, BaseLEDType_values),
 };
 
 constexpr item BaseContainerType_2_items[] = {
@@ -675,12 +790,13 @@ constexpr item BaseContainerType_2_items[] = {
 };
 constexpr auto BaseContainerType_2_elements = element_rows(BaseContainerType_2_items);
 constexpr auto BaseContainerType_2_sequence = sequence_rows(BaseContainerType_2_items);
+constexpr auto BaseContainerType_2_values = plain_rows(BaseContainerType_2_items);
 constexpr type_description BaseContainerType_2_description = {
     .name = "BaseContainerType_2",
     .first_step = 29000,
     .is_extension = true,
     .content = content_of(BaseContainerType_2_items, BaseContainerType_2_sequence,
-        BaseContainerType_2_elements),
+        BaseContainerType_2_elements, BaseContainerType_2_values),
 };
 
 constexpr auto BaseContainerType_own_attributes = std::to_array<item>({
@@ -693,6 +809,7 @@ constexpr auto BaseContainerType_own_attributes = std::to_array<item>({
 constexpr auto BaseContainerType_attributes = joined(BaseEntityType_attributes,
     BaseContainerType_own_attributes);
 constexpr auto BaseContainerType_attribute_names = attribute_rows(BaseContainerType_attributes);
+constexpr auto BaseContainerType_attribute_values = plain_rows(BaseContainerType_attributes);
 constexpr item BaseContainerType_items[] = {
     {.name = "BaseEntityType", .kind = item_kind::group, .occurs = occurrence::optional,
      .offset = offsetof(BaseContainerType, base), .decode = child<XmlDT_BaseEntityType>},
@@ -703,14 +820,17 @@ constexpr item BaseContainerType_items[] = {
 constexpr auto BaseContainerType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseContainerType_2_items>());
 constexpr auto BaseContainerType_sequence = sequence_rows(BaseContainerType_items);
+constexpr auto BaseContainerType_values = plain_rows(BaseContainerType_items);
 constexpr auto BaseContainerType_inherited = joined(BaseEntityType_inherited,
     base_group_rows(BaseContainerType_2_items));
 constexpr type_description BaseContainerType_description = {
     .name = "BaseContainerType",
     .first_step = 28000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseContainerType_attributes, BaseContainerType_attribute_names),
-    .content = content_of(BaseContainerType_items, BaseContainerType_sequence, BaseContainerType_elements),
+    .attributes = attributes_of(BaseContainerType_attributes, BaseContainerType_attribute_names,
+        BaseContainerType_attribute_values),
+    .content = content_of(BaseContainerType_items, BaseContainerType_sequence, BaseContainerType_elements,
+        BaseContainerType_values),
 };
 
 constexpr item PemBayType_2_items[] = {
@@ -723,11 +843,13 @@ constexpr item PemBayType_2_items[] = {
 };
 constexpr auto PemBayType_2_elements = element_rows(PemBayType_2_items);
 constexpr auto PemBayType_2_sequence = sequence_rows(PemBayType_2_items);
+constexpr auto PemBayType_2_values = plain_rows(PemBayType_2_items);
 constexpr type_description PemBayType_2_description = {
     .name = "PemBayType_2",
     .first_step = 31000,
     .is_extension = true,
-    .content = content_of(PemBayType_2_items, PemBayType_2_sequence, PemBayType_2_elements),
+    .content = content_of(PemBayType_2_items, PemBayType_2_sequence, PemBayType_2_elements,
+        PemBayType_2_values),
 };
 
 constexpr item PemBayType_items[] = {
@@ -739,12 +861,14 @@ constexpr item PemBayType_items[] = {
 };
 constexpr auto PemBayType_elements = joined(BaseContainerType_inherited, leading_rows<PemBayType_2_items>());
 constexpr auto PemBayType_sequence = sequence_rows(PemBayType_items);
+constexpr auto PemBayType_values = plain_rows(PemBayType_items);
 constexpr type_description PemBayType_description = {
     .name = "PemBayType",
     .first_step = 30000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseContainerType_attributes, BaseContainerType_attribute_names),
-    .content = content_of(PemBayType_items, PemBayType_sequence, PemBayType_elements),
+    .attributes = attributes_of(BaseContainerType_attributes, BaseContainerType_attribute_names,
+        BaseContainerType_attribute_values),
+    .content = content_of(PemBayType_items, PemBayType_sequence, PemBayType_elements, PemBayType_values),
 };
 
 constexpr item BaseCEPortType_2_items[] = {
@@ -754,40 +878,42 @@ constexpr item BaseCEPortType_2_items[] = {
      .offset = offsetof(BaseCEPortType_2, operatingBandWidth),
      .present = bit(offsetof(BaseCEPortType_2, has), 0)},
     {.name = "client", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseCEPortType_2, client), .decode = child<XmlDT_EsdDevClientType>},
+     .offset = offsetof(BaseCEPortType_2, client), .decode = child<XmlDT_EsdDevClientType>,
+     .tokens = &tokens::EsdDevClientType},
     {.name = "pd_specific_client", .kind = item_kind::uint32, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, pd_specific_client),
      .present = bit(offsetof(BaseCEPortType_2, has), 1)},
     {.name = "CC0nativeVlan", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0nativeVlan), .present = bit(offsetof(BaseCEPortType_2, has), 2),
-     .decode = child<XmlDT_EsdDevVlanType>},
+     .decode = child<XmlDT_EsdDevVlanType>, .tokens = &tokens::EsdDevVlanType},
     {.name = "CC1nativeVlan", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC1nativeVlan), .present = bit(offsetof(BaseCEPortType_2, has), 3),
-     .decode = child<XmlDT_EsdDevVlanType>},
+     .decode = child<XmlDT_EsdDevVlanType>, .tokens = &tokens::EsdDevVlanType},
     {.name = "nativeVlan", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, nativeVlan), .present = bit(offsetof(BaseCEPortType_2, has), 4),
-     .decode = child<XmlDT_EsdDevVlanType>},
+     .decode = child<XmlDT_EsdDevVlanType>, .tokens = &tokens::EsdDevVlanType},
     {.name = "CC0portSpeed", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0portSpeed), .present = bit(offsetof(BaseCEPortType_2, has), 5),
-     .decode = child<XmlDT_PortSpeedType>},
+     .decode = child<XmlDT_PortSpeedType>, .tokens = &tokens::PortSpeedType},
     {.name = "CC1portSpeed", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC1portSpeed), .present = bit(offsetof(BaseCEPortType_2, has), 6),
-     .decode = child<XmlDT_PortSpeedType>},
+     .decode = child<XmlDT_PortSpeedType>, .tokens = &tokens::PortSpeedType},
     {.name = "portSpeed", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, portSpeed), .present = bit(offsetof(BaseCEPortType_2, has), 7),
-     .decode = child<XmlDT_PortSpeedType>},
+     .decode = child<XmlDT_PortSpeedType>, .tokens = &tokens::PortSpeedType},
     {.name = "CC0portMode", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0portMode), .present = bit(offsetof(BaseCEPortType_2, has), 8),
-     .decode = child<XmlDT_PortModeType>},
+     .decode = child<XmlDT_PortModeType>, .tokens = &tokens::PortModeType},
     {.name = "CC1portMode", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC1portMode), .present = bit(offsetof(BaseCEPortType_2, has), 9),
-     .decode = child<XmlDT_PortModeType>},
+     .decode = child<XmlDT_PortModeType>, .tokens = &tokens::PortModeType},
     {.name = "portMode", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, portMode), .present = bit(offsetof(BaseCEPortType_2, has), 10),
-     .decode = child<XmlDT_PortModeType>},
+     .decode = child<XmlDT_PortModeType>, .tokens = &tokens::PortModeType},
     {.name = "portAdminState", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, portAdminState),
-     .present = bit(offsetof(BaseCEPortType_2, has), 11), .decode = child<XmlDT_PortState>},
+     .present = bit(offsetof(BaseCEPortType_2, has), 11), .decode = child<XmlDT_PortState>,
+     .tokens = &tokens::PortState},
     {.name = "CC0mlapFlags", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0mlapFlags), .present = bit(offsetof(BaseCEPortType_2, has), 12),
      .decode = child<XmlDT_Hex32BitHexAddressType>},
@@ -798,22 +924,23 @@ constexpr item BaseCEPortType_2_items[] = {
      .offset = offsetof(BaseCEPortType_2, mlapFlags), .present = bit(offsetof(BaseCEPortType_2, has), 14),
      .decode = child<XmlDT_Hex32BitHexAddressType>},
     {.name = "serdes", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseCEPortType_2, serdes), .decode = child<XmlDT_SerdesParamsType>},
+     .offset = offsetof(BaseCEPortType_2, serdes), .decode = child<XmlDT_SerdesParamsType>,
+     .tokens = &tokens::SerdesParamsType},
     {.name = "CC0portDest", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0portDest), .present = bit(offsetof(BaseCEPortType_2, has), 15),
-     .decode = child<XmlDT_EsdPortDestType>},
+     .decode = child<XmlDT_EsdPortDestType>, .tokens = &tokens::EsdPortDestType},
     {.name = "CC0PortDestName", .kind = item_kind::text, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC0PortDestName),
      .present = bit(offsetof(BaseCEPortType_2, has), 16)},
     {.name = "CC1portDest", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC1portDest), .present = bit(offsetof(BaseCEPortType_2, has), 17),
-     .decode = child<XmlDT_EsdPortDestType>},
+     .decode = child<XmlDT_EsdPortDestType>, .tokens = &tokens::EsdPortDestType},
     {.name = "CC1PortDestName", .kind = item_kind::text, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, CC1PortDestName),
      .present = bit(offsetof(BaseCEPortType_2, has), 18)},
     {.name = "portDest", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, portDest), .present = bit(offsetof(BaseCEPortType_2, has), 19),
-     .decode = child<XmlDT_EsdPortDestType>},
+     .decode = child<XmlDT_EsdPortDestType>, .tokens = &tokens::EsdPortDestType},
     {.name = "PortDestName", .kind = item_kind::text, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, PortDestName), .present = bit(offsetof(BaseCEPortType_2, has), 20)},
     {.name = "policingPortMap", .kind = item_kind::uint32, .occurs = occurrence::required,
@@ -822,16 +949,17 @@ constexpr item BaseCEPortType_2_items[] = {
      .offset = offsetof(BaseCEPortType_2, mdioChannel)},
     {.name = "mdioClkSpeed", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, mdioClkSpeed), .present = bit(offsetof(BaseCEPortType_2, has), 21),
-     .decode = child<XmlDT_MdioSpeed>},
+     .decode = child<XmlDT_MdioSpeed>, .tokens = &tokens::MdioSpeed},
     {.name = "LocalSwitching", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, LocalSwitching),
-     .present = bit(offsetof(BaseCEPortType_2, has), 22), .decode = child<XmlDT_LocalSwitching>},
+     .present = bit(offsetof(BaseCEPortType_2, has), 22), .decode = child<XmlDT_LocalSwitching>,
+     .tokens = &tokens::LocalSwitching},
     {.name = "sfpController", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, sfpController), .present = bit(offsetof(BaseCEPortType_2, has), 23),
-     .decode = child<XmlDT_SfpControllerType>},
+     .decode = child<XmlDT_SfpControllerType>, .tokens = &tokens::SfpControllerType},
     {.name = "phyType", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType_2, phyType), .present = bit(offsetof(BaseCEPortType_2, has), 24),
-     .decode = child<XmlDT_PhyType>},
+     .decode = child<XmlDT_PhyType>, .tokens = &tokens::PhyType},
     {.name = "led", .kind = item_kind::record, .occurs = occurrence::repeated,
      .offset = offsetof(BaseCEPortType_2, led), .node_size = sizeof(BaseLEDType),
      .init = init<Init_BaseLEDType>, .decode = child<XmlDT_BaseLEDType>},
@@ -841,19 +969,23 @@ constexpr item BaseCEPortType_2_items[] = {
 };
 constexpr auto BaseCEPortType_2_elements = element_rows(BaseCEPortType_2_items);
 constexpr auto BaseCEPortType_2_sequence = sequence_rows(BaseCEPortType_2_items);
+constexpr auto BaseCEPortType_2_values = plain_rows(BaseCEPortType_2_items);
 constexpr type_description BaseCEPortType_2_description = {
     .name = "BaseCEPortType_2",
     .first_step = 33000,
     .is_extension = true,
-    .content = content_of(BaseCEPortType_2_items, BaseCEPortType_2_sequence, BaseCEPortType_2_elements),
+    .content = content_of(BaseCEPortType_2_items, BaseCEPortType_2_sequence, BaseCEPortType_2_elements,
+        BaseCEPortType_2_values),
 };
 
 constexpr auto BaseCEPortType_own_attributes = std::to_array<item>({
     {.name = "portUsage", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseCEPortType, portUsage), .decode = child<XmlDT_PortUsageType>},
+     .offset = offsetof(BaseCEPortType, portUsage), .decode = child<XmlDT_PortUsageType>,
+     .tokens = &tokens::PortUsageType},
 });
 constexpr auto BaseCEPortType_attributes = joined(BaseEntityType_attributes, BaseCEPortType_own_attributes);
 constexpr auto BaseCEPortType_attribute_names = attribute_rows(BaseCEPortType_attributes);
+constexpr auto BaseCEPortType_attribute_values = plain_rows(BaseCEPortType_attributes);
 constexpr item BaseCEPortType_items[] = {
     {.name = "BaseEntityType", .kind = item_kind::group, .occurs = occurrence::optional,
      .offset = offsetof(BaseCEPortType, base), .decode = child<XmlDT_BaseEntityType>},
@@ -864,14 +996,17 @@ constexpr item BaseCEPortType_items[] = {
 constexpr auto BaseCEPortType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseCEPortType_2_items>());
 constexpr auto BaseCEPortType_sequence = sequence_rows(BaseCEPortType_items);
+constexpr auto BaseCEPortType_values = plain_rows(BaseCEPortType_items);
 constexpr auto BaseCEPortType_inherited = joined(BaseEntityType_inherited,
     base_group_rows(BaseCEPortType_2_items));
 constexpr type_description BaseCEPortType_description = {
     .name = "BaseCEPortType",
     .first_step = 32000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseCEPortType_attributes, BaseCEPortType_attribute_names),
-    .content = content_of(BaseCEPortType_items, BaseCEPortType_sequence, BaseCEPortType_elements),
+    .attributes = attributes_of(BaseCEPortType_attributes, BaseCEPortType_attribute_names,
+        BaseCEPortType_attribute_values),
+    .content = content_of(BaseCEPortType_items, BaseCEPortType_sequence, BaseCEPortType_elements,
+        BaseCEPortType_values),
 };
 
 constexpr auto BaseCESwitchType_2_port_own_attributes = std::to_array<item>({
@@ -881,19 +1016,22 @@ constexpr auto BaseCESwitchType_2_port_own_attributes = std::to_array<item>({
 constexpr auto BaseCESwitchType_2_port_attributes = joined(BaseCEPortType_attributes,
     BaseCESwitchType_2_port_own_attributes);
 constexpr auto BaseCESwitchType_2_port_attribute_names = attribute_rows(BaseCESwitchType_2_port_attributes);
+constexpr auto BaseCESwitchType_2_port_attribute_values = plain_rows(BaseCESwitchType_2_port_attributes);
 constexpr item BaseCESwitchType_2_port_items[] = {
     {.name = "BaseCEPortType", .kind = item_kind::group, .occurs = occurrence::required,
      .offset = offsetof(BaseCESwitchType_2_port, base), .decode = child<XmlDT_BaseCEPortType>},
 };
 constexpr auto BaseCESwitchType_2_port_elements = BaseCEPortType_inherited;
 constexpr auto BaseCESwitchType_2_port_sequence = sequence_rows(BaseCESwitchType_2_port_items);
+constexpr auto BaseCESwitchType_2_port_values = plain_rows(BaseCESwitchType_2_port_items);
 constexpr type_description BaseCESwitchType_2_port_description = {
     .name = "BaseCESwitchType_2_port",
     .first_step = 34000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseCESwitchType_2_port_attributes, BaseCESwitchType_2_port_attribute_names),
+    .attributes = attributes_of(BaseCESwitchType_2_port_attributes, BaseCESwitchType_2_port_attribute_names,
+        BaseCESwitchType_2_port_attribute_values),
     .content = content_of(BaseCESwitchType_2_port_items, BaseCESwitchType_2_port_sequence,
-        BaseCESwitchType_2_port_elements),
+        BaseCESwitchType_2_port_elements, BaseCESwitchType_2_port_values),
 };
 
 constexpr item BaseFPGAType_2_items[] = {
@@ -940,11 +1078,13 @@ constexpr item BaseFPGAType_2_items[] = {
 };
 constexpr auto BaseFPGAType_2_elements = element_rows(BaseFPGAType_2_items);
 constexpr auto BaseFPGAType_2_sequence = sequence_rows(BaseFPGAType_2_items);
+constexpr auto BaseFPGAType_2_values = plain_rows(BaseFPGAType_2_items);
 constexpr type_description BaseFPGAType_2_description = {
     .name = "BaseFPGAType_2",
     .first_step = 36000,
     .is_extension = true,
-    .content = content_of(BaseFPGAType_2_items, BaseFPGAType_2_sequence, BaseFPGAType_2_elements),
+    .content = content_of(BaseFPGAType_2_items, BaseFPGAType_2_sequence, BaseFPGAType_2_elements,
+        BaseFPGAType_2_values),
 };
 
 constexpr item BaseFPGAType_items[] = {
@@ -956,12 +1096,15 @@ constexpr item BaseFPGAType_items[] = {
 };
 constexpr auto BaseFPGAType_elements = joined(BaseEntityType_inherited, leading_rows<BaseFPGAType_2_items>());
 constexpr auto BaseFPGAType_sequence = sequence_rows(BaseFPGAType_items);
+constexpr auto BaseFPGAType_values = plain_rows(BaseFPGAType_items);
 constexpr type_description BaseFPGAType_description = {
     .name = "BaseFPGAType",
     .first_step = 35000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseFPGAType_items, BaseFPGAType_sequence, BaseFPGAType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseFPGAType_items, BaseFPGAType_sequence, BaseFPGAType_elements,
+        BaseFPGAType_values),
 };
 
 constexpr item BaseIdEEPROMType_2_items[] = {
@@ -1010,20 +1153,24 @@ constexpr item BaseIdEEPROMType_2_items[] = {
 };
 constexpr auto BaseIdEEPROMType_2_elements = element_rows(BaseIdEEPROMType_2_items);
 constexpr auto BaseIdEEPROMType_2_sequence = sequence_rows(BaseIdEEPROMType_2_items);
+constexpr auto BaseIdEEPROMType_2_values = plain_rows(BaseIdEEPROMType_2_items);
 constexpr type_description BaseIdEEPROMType_2_description = {
     .name = "BaseIdEEPROMType_2",
     .first_step = 38000,
     .is_extension = true,
-    .content = content_of(BaseIdEEPROMType_2_items, BaseIdEEPROMType_2_sequence, BaseIdEEPROMType_2_elements),
+    .content = content_of(BaseIdEEPROMType_2_items, BaseIdEEPROMType_2_sequence, BaseIdEEPROMType_2_elements,
+        BaseIdEEPROMType_2_values),
 };
 
 constexpr auto BaseIdEEPROMType_own_attributes = std::to_array<item>({
     {.name = "eepromType", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseIdEEPROMType, eepromType), .decode = child<XmlDT_EepromUsageType>},
+     .offset = offsetof(BaseIdEEPROMType, eepromType), .decode = child<XmlDT_EepromUsageType>,
+     .tokens = &tokens::EepromUsageType},
 });
 constexpr auto BaseIdEEPROMType_attributes = joined(BaseEntityType_attributes,
     BaseIdEEPROMType_own_attributes);
 constexpr auto BaseIdEEPROMType_attribute_names = attribute_rows(BaseIdEEPROMType_attributes);
+constexpr auto BaseIdEEPROMType_attribute_values = plain_rows(BaseIdEEPROMType_attributes);
 constexpr item BaseIdEEPROMType_items[] = {
     {.name = "BaseEntityType", .kind = item_kind::group, .occurs = occurrence::optional,
      .offset = offsetof(BaseIdEEPROMType, base), .decode = child<XmlDT_BaseEntityType>},
@@ -1034,12 +1181,15 @@ constexpr item BaseIdEEPROMType_items[] = {
 constexpr auto BaseIdEEPROMType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseIdEEPROMType_2_items>());
 constexpr auto BaseIdEEPROMType_sequence = sequence_rows(BaseIdEEPROMType_items);
+constexpr auto BaseIdEEPROMType_values = plain_rows(BaseIdEEPROMType_items);
 constexpr type_description BaseIdEEPROMType_description = {
     .name = "BaseIdEEPROMType",
     .first_step = 37000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseIdEEPROMType_attributes, BaseIdEEPROMType_attribute_names),
-    .content = content_of(BaseIdEEPROMType_items, BaseIdEEPROMType_sequence, BaseIdEEPROMType_elements),
+    .attributes = attributes_of(BaseIdEEPROMType_attributes, BaseIdEEPROMType_attribute_names,
+        BaseIdEEPROMType_attribute_values),
+    .content = content_of(BaseIdEEPROMType_items, BaseIdEEPROMType_sequence, BaseIdEEPROMType_elements,
+        BaseIdEEPROMType_values),
 };
 
 constexpr item BaseStorageType_2_items[] = {
@@ -1049,7 +1199,8 @@ constexpr item BaseStorageType_2_items[] = {
      .offset = offsetof(BaseStorageType_2, speed), .present = bit(offsetof(BaseStorageType_2, has), 0)},
     {.name = "storageSpeedUnit", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseStorageType_2, storageSpeedUnit),
-     .present = bit(offsetof(BaseStorageType_2, has), 1), .decode = child<XmlDT_MemAccessSpeedUnit>},
+     .present = bit(offsetof(BaseStorageType_2, has), 1), .decode = child<XmlDT_MemAccessSpeedUnit>,
+     .tokens = &tokens::MemAccessSpeedUnit},
     {.name = "fpga", .kind = item_kind::record, .occurs = occurrence::repeated,
      .offset = offsetof(BaseStorageType_2, fpga), .node_size = sizeof(BaseFPGAType),
      .init = init<Init_BaseFPGAType>, .decode = child<XmlDT_BaseFPGAType>},
@@ -1059,11 +1210,13 @@ constexpr item BaseStorageType_2_items[] = {
 };
 constexpr auto BaseStorageType_2_elements = element_rows(BaseStorageType_2_items);
 constexpr auto BaseStorageType_2_sequence = sequence_rows(BaseStorageType_2_items);
+constexpr auto BaseStorageType_2_values = plain_rows(BaseStorageType_2_items);
 constexpr type_description BaseStorageType_2_description = {
     .name = "BaseStorageType_2",
     .first_step = 40000,
     .is_extension = true,
-    .content = content_of(BaseStorageType_2_items, BaseStorageType_2_sequence, BaseStorageType_2_elements),
+    .content = content_of(BaseStorageType_2_items, BaseStorageType_2_sequence, BaseStorageType_2_elements,
+        BaseStorageType_2_values),
 };
 
 constexpr item BaseStorageType_items[] = {
@@ -1076,14 +1229,17 @@ constexpr item BaseStorageType_items[] = {
 constexpr auto BaseStorageType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseStorageType_2_items>());
 constexpr auto BaseStorageType_sequence = sequence_rows(BaseStorageType_items);
+constexpr auto BaseStorageType_values = plain_rows(BaseStorageType_items);
 constexpr auto BaseStorageType_inherited = joined(BaseEntityType_inherited,
     base_group_rows(BaseStorageType_2_items));
 constexpr type_description BaseStorageType_description = {
     .name = "BaseStorageType",
     .first_step = 39000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseStorageType_items, BaseStorageType_sequence, BaseStorageType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseStorageType_items, BaseStorageType_sequence, BaseStorageType_elements,
+        BaseStorageType_values),
 };
 
 constexpr item BaseSpiFlash_2_items[] = {
@@ -1097,11 +1253,13 @@ constexpr item BaseSpiFlash_2_items[] = {
 };
 constexpr auto BaseSpiFlash_2_elements = element_rows(BaseSpiFlash_2_items);
 constexpr auto BaseSpiFlash_2_sequence = sequence_rows(BaseSpiFlash_2_items);
+constexpr auto BaseSpiFlash_2_values = plain_rows(BaseSpiFlash_2_items);
 constexpr type_description BaseSpiFlash_2_description = {
     .name = "BaseSpiFlash_2",
     .first_step = 42000,
     .is_extension = true,
-    .content = content_of(BaseSpiFlash_2_items, BaseSpiFlash_2_sequence, BaseSpiFlash_2_elements),
+    .content = content_of(BaseSpiFlash_2_items, BaseSpiFlash_2_sequence, BaseSpiFlash_2_elements,
+        BaseSpiFlash_2_values),
 };
 
 constexpr item BaseSpiFlash_items[] = {
@@ -1114,12 +1272,15 @@ constexpr item BaseSpiFlash_items[] = {
 constexpr auto BaseSpiFlash_elements = joined(BaseStorageType_inherited,
     leading_rows<BaseSpiFlash_2_items>());
 constexpr auto BaseSpiFlash_sequence = sequence_rows(BaseSpiFlash_items);
+constexpr auto BaseSpiFlash_values = plain_rows(BaseSpiFlash_items);
 constexpr type_description BaseSpiFlash_description = {
     .name = "BaseSpiFlash",
     .first_step = 41000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseSpiFlash_items, BaseSpiFlash_sequence, BaseSpiFlash_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseSpiFlash_items, BaseSpiFlash_sequence, BaseSpiFlash_elements,
+        BaseSpiFlash_values),
 };
 
 constexpr item BaseSensorType_2_items[] = {
@@ -1149,23 +1310,28 @@ constexpr item BaseSensorType_2_items[] = {
      .offset = offsetof(BaseSensorType_2, sensorDataLength),
      .present = bit(offsetof(BaseSensorType_2, has), 6)},
     {.name = "unit", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseSensorType_2, unit), .decode = child<XmlDT_BaseSensorType_2_unit>},
+     .offset = offsetof(BaseSensorType_2, unit), .decode = child<XmlDT_BaseSensorType_2_unit>,
+     .tokens = &tokens::BaseSensorType_2_unit},
     {.name = "userDefinedUnit", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseSensorType_2, userDefinedUnit),
      .present = bit(offsetof(BaseSensorType_2, has), 7),
-     .decode = child<XmlDT_BaseSensorType_2_userDefinedUnit>},
+     .decode = child<XmlDT_BaseSensorType_2_userDefinedUnit>,
+     .tokens = &tokens::BaseSensorType_2_userDefinedUnit},
     {.name = "scale", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseSensorType_2, scale), .decode = child<XmlDT_BaseSensorType_2_scale>},
+     .offset = offsetof(BaseSensorType_2, scale), .decode = child<XmlDT_BaseSensorType_2_scale>,
+     .tokens = &tokens::BaseSensorType_2_scale},
     {.name = "precision", .kind = item_kind::int32, .occurs = occurrence::optional,
      .offset = offsetof(BaseSensorType_2, precision), .present = bit(offsetof(BaseSensorType_2, has), 8)},
 };
 constexpr auto BaseSensorType_2_elements = element_rows(BaseSensorType_2_items);
 constexpr auto BaseSensorType_2_sequence = sequence_rows(BaseSensorType_2_items);
+constexpr auto BaseSensorType_2_values = plain_rows(BaseSensorType_2_items);
 constexpr type_description BaseSensorType_2_description = {
     .name = "BaseSensorType_2",
     .first_step = 44000,
     .is_extension = true,
-    .content = content_of(BaseSensorType_2_items, BaseSensorType_2_sequence, BaseSensorType_2_elements),
+    .content = content_of(BaseSensorType_2_items, BaseSensorType_2_sequence, BaseSensorType_2_elements,
+        BaseSensorType_2_values),
 };
 
 constexpr auto BaseSensorType_own_attributes = std::to_array<item>({
@@ -1179,6 +1345,7 @@ constexpr auto BaseSensorType_own_attributes = std::to_array<item>({
 });
 constexpr auto BaseSensorType_attributes = joined(BaseEntityType_attributes, BaseSensorType_own_attributes);
 constexpr auto BaseSensorType_attribute_names = attribute_rows(BaseSensorType_attributes);
+constexpr auto BaseSensorType_attribute_values = plain_rows(BaseSensorType_attributes);
 constexpr item BaseSensorType_items[] = {
     {.name = "BaseEntityType", .kind = item_kind::group, .occurs = occurrence::optional,
      .offset = offsetof(BaseSensorType, base), .decode = child<XmlDT_BaseEntityType>},
@@ -1189,12 +1356,15 @@ constexpr item BaseSensorType_items[] = {
 constexpr auto BaseSensorType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseSensorType_2_items>());
 constexpr auto BaseSensorType_sequence = sequence_rows(BaseSensorType_items);
+constexpr auto BaseSensorType_values = plain_rows(BaseSensorType_items);
 constexpr type_description BaseSensorType_description = {
     .name = "BaseSensorType",
     .first_step = 43000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseSensorType_attributes, BaseSensorType_attribute_names),
-    .content = content_of(BaseSensorType_items, BaseSensorType_sequence, BaseSensorType_elements),
+    .attributes = attributes_of(BaseSensorType_attributes, BaseSensorType_attribute_names,
+        BaseSensorType_attribute_values),
+    .content = content_of(BaseSensorType_items, BaseSensorType_sequence, BaseSensorType_elements,
+        BaseSensorType_values),
 };
 
 constexpr item I2cChipType_items[] = {
@@ -1203,12 +1373,14 @@ constexpr item I2cChipType_items[] = {
 };
 constexpr auto I2cChipType_elements = BaseEntityType_inherited;
 constexpr auto I2cChipType_sequence = sequence_rows(I2cChipType_items);
+constexpr auto I2cChipType_values = plain_rows(I2cChipType_items);
 constexpr type_description I2cChipType_description = {
     .name = "I2cChipType",
     .first_step = 45000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(I2cChipType_items, I2cChipType_sequence, I2cChipType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(I2cChipType_items, I2cChipType_sequence, I2cChipType_elements, I2cChipType_values),
 };
 
 constexpr item BasePCIeSwitchType_2_items[] = {
@@ -1224,12 +1396,13 @@ constexpr item BasePCIeSwitchType_2_items[] = {
 };
 constexpr auto BasePCIeSwitchType_2_elements = element_rows(BasePCIeSwitchType_2_items);
 constexpr auto BasePCIeSwitchType_2_sequence = sequence_rows(BasePCIeSwitchType_2_items);
+constexpr auto BasePCIeSwitchType_2_values = plain_rows(BasePCIeSwitchType_2_items);
 constexpr type_description BasePCIeSwitchType_2_description = {
     .name = "BasePCIeSwitchType_2",
     .first_step = 47000,
     .is_extension = true,
     .content = content_of(BasePCIeSwitchType_2_items, BasePCIeSwitchType_2_sequence,
-        BasePCIeSwitchType_2_elements),
+        BasePCIeSwitchType_2_elements, BasePCIeSwitchType_2_values),
 };
 
 constexpr item BasePCIeSwitchType_items[] = {
@@ -1242,12 +1415,15 @@ constexpr item BasePCIeSwitchType_items[] = {
 constexpr auto BasePCIeSwitchType_elements = joined(BaseEntityType_inherited,
     leading_rows<BasePCIeSwitchType_2_items>());
 constexpr auto BasePCIeSwitchType_sequence = sequence_rows(BasePCIeSwitchType_items);
+constexpr auto BasePCIeSwitchType_values = plain_rows(BasePCIeSwitchType_items);
 constexpr type_description BasePCIeSwitchType_description = {
     .name = "BasePCIeSwitchType",
     .first_step = 46000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BasePCIeSwitchType_items, BasePCIeSwitchType_sequence, BasePCIeSwitchType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BasePCIeSwitchType_items, BasePCIeSwitchType_sequence, BasePCIeSwitchType_elements,
+        BasePCIeSwitchType_values),
 };
 
 constexpr item BaseVoltageMarginType_2_items[] = {
@@ -1257,16 +1433,18 @@ constexpr item BaseVoltageMarginType_2_items[] = {
      .offset = offsetof(BaseVoltageMarginType_2, lowValue)},
     {.name = "operation", .kind = item_kind::simple, .occurs = occurrence::required,
      .offset = offsetof(BaseVoltageMarginType_2, operation),
-     .decode = child<XmlDT_BaseVoltageMarginType_2_operation>},
+     .decode = child<XmlDT_BaseVoltageMarginType_2_operation>,
+     .tokens = &tokens::BaseVoltageMarginType_2_operation},
 };
 constexpr auto BaseVoltageMarginType_2_elements = element_rows(BaseVoltageMarginType_2_items);
 constexpr auto BaseVoltageMarginType_2_sequence = sequence_rows(BaseVoltageMarginType_2_items);
+constexpr auto BaseVoltageMarginType_2_values = plain_rows(BaseVoltageMarginType_2_items);
 constexpr type_description BaseVoltageMarginType_2_description = {
     .name = "BaseVoltageMarginType_2",
     .first_step = 49000,
     .is_extension = true,
     .content = content_of(BaseVoltageMarginType_2_items, BaseVoltageMarginType_2_sequence,
-        BaseVoltageMarginType_2_elements),
+        BaseVoltageMarginType_2_elements, BaseVoltageMarginType_2_values),
 };
 
 constexpr item BaseVoltageMarginType_items[] = {
@@ -1279,13 +1457,15 @@ constexpr item BaseVoltageMarginType_items[] = {
 constexpr auto BaseVoltageMarginType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseVoltageMarginType_2_items>());
 constexpr auto BaseVoltageMarginType_sequence = sequence_rows(BaseVoltageMarginType_items);
+constexpr auto BaseVoltageMarginType_values = plain_rows(BaseVoltageMarginType_items);
 constexpr type_description BaseVoltageMarginType_description = {
     .name = "BaseVoltageMarginType",
     .first_step = 48000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
     .content = content_of(BaseVoltageMarginType_items, BaseVoltageMarginType_sequence,
-        BaseVoltageMarginType_elements),
+        BaseVoltageMarginType_elements, BaseVoltageMarginType_values),
 };
 
 constexpr item BaseProcessorType_2_items[] = {
@@ -1298,19 +1478,22 @@ constexpr item BaseProcessorType_2_items[] = {
      .present = bit(offsetof(BaseProcessorType_2, has), 0)},
     {.name = "busSpeedUnit", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseProcessorType_2, busSpeedUnit),
-     .present = bit(offsetof(BaseProcessorType_2, has), 1), .decode = child<XmlDT_CyclesPerSecUnit>},
+     .present = bit(offsetof(BaseProcessorType_2, has), 1), .decode = child<XmlDT_CyclesPerSecUnit>,
+     .tokens = &tokens::CyclesPerSecUnit},
     {.name = "cpuSpeed", .kind = item_kind::uint32, .occurs = occurrence::optional,
      .offset = offsetof(BaseProcessorType_2, cpuSpeed),
      .present = bit(offsetof(BaseProcessorType_2, has), 2)},
     {.name = "cpuSpeedUnit", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseProcessorType_2, cpuSpeedUnit),
-     .present = bit(offsetof(BaseProcessorType_2, has), 3), .decode = child<XmlDT_CyclesPerSecUnit>},
+     .present = bit(offsetof(BaseProcessorType_2, has), 3), .decode = child<XmlDT_CyclesPerSecUnit>,
+     .tokens = &tokens::CyclesPerSecUnit},
     {.name = "oscillationSpeed", .kind = item_kind::uint32, .occurs = occurrence::optional,
      .offset = offsetof(BaseProcessorType_2, oscillationSpeed),
      .present = bit(offsetof(BaseProcessorType_2, has), 4)},
     {.name = "oscillationSpeedUnit", .kind = item_kind::simple, .occurs = occurrence::optional,
      .offset = offsetof(BaseProcessorType_2, oscillationSpeedUnit),
-     .present = bit(offsetof(BaseProcessorType_2, has), 5), .decode = child<XmlDT_CyclesPerSecUnit>},
+     .present = bit(offsetof(BaseProcessorType_2, has), 5), .decode = child<XmlDT_CyclesPerSecUnit>,
+     .tokens = &tokens::CyclesPerSecUnit},
     {.name = "cacheSizeL1", .kind = item_kind::text, .occurs = occurrence::required,
      .offset = offsetof(BaseProcessorType_2, cacheSizeL1)},
     {.name = "cacheSizeL2", .kind = item_kind::text, .occurs = occurrence::required,
@@ -1320,12 +1503,13 @@ constexpr item BaseProcessorType_2_items[] = {
 };
 constexpr auto BaseProcessorType_2_elements = element_rows(BaseProcessorType_2_items);
 constexpr auto BaseProcessorType_2_sequence = sequence_rows(BaseProcessorType_2_items);
+constexpr auto BaseProcessorType_2_values = plain_rows(BaseProcessorType_2_items);
 constexpr type_description BaseProcessorType_2_description = {
     .name = "BaseProcessorType_2",
     .first_step = 51000,
     .is_extension = true,
     .content = content_of(BaseProcessorType_2_items, BaseProcessorType_2_sequence,
-        BaseProcessorType_2_elements),
+        BaseProcessorType_2_elements, BaseProcessorType_2_values),
 };
 
 constexpr item BaseProcessorType_items[] = {
@@ -1338,12 +1522,15 @@ constexpr item BaseProcessorType_items[] = {
 constexpr auto BaseProcessorType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseProcessorType_2_items>());
 constexpr auto BaseProcessorType_sequence = sequence_rows(BaseProcessorType_items);
+constexpr auto BaseProcessorType_values = plain_rows(BaseProcessorType_items);
 constexpr type_description BaseProcessorType_description = {
     .name = "BaseProcessorType",
     .first_step = 50000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseProcessorType_items, BaseProcessorType_sequence, BaseProcessorType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseProcessorType_items, BaseProcessorType_sequence, BaseProcessorType_elements,
+        BaseProcessorType_values),
 };
 
 constexpr item BaseMemoryType_2_items[] = {
@@ -1356,11 +1543,13 @@ constexpr item BaseMemoryType_2_items[] = {
 };
 constexpr auto BaseMemoryType_2_elements = element_rows(BaseMemoryType_2_items);
 constexpr auto BaseMemoryType_2_sequence = sequence_rows(BaseMemoryType_2_items);
+constexpr auto BaseMemoryType_2_values = plain_rows(BaseMemoryType_2_items);
 constexpr type_description BaseMemoryType_2_description = {
     .name = "BaseMemoryType_2",
     .first_step = 53000,
     .is_extension = true,
-    .content = content_of(BaseMemoryType_2_items, BaseMemoryType_2_sequence, BaseMemoryType_2_elements),
+    .content = content_of(BaseMemoryType_2_items, BaseMemoryType_2_sequence, BaseMemoryType_2_elements,
+        BaseMemoryType_2_values),
 };
 
 constexpr item BaseMemoryType_items[] = {
@@ -1373,12 +1562,15 @@ constexpr item BaseMemoryType_items[] = {
 constexpr auto BaseMemoryType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseMemoryType_2_items>());
 constexpr auto BaseMemoryType_sequence = sequence_rows(BaseMemoryType_items);
+constexpr auto BaseMemoryType_values = plain_rows(BaseMemoryType_items);
 constexpr type_description BaseMemoryType_description = {
     .name = "BaseMemoryType",
     .first_step = 52000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseMemoryType_items, BaseMemoryType_sequence, BaseMemoryType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseMemoryType_items, BaseMemoryType_sequence, BaseMemoryType_elements,
+        BaseMemoryType_values),
 };
 
 constexpr item BaseCESwitchType_2_items[] = {
@@ -1395,11 +1587,13 @@ constexpr item BaseCESwitchType_2_items[] = {
 };
 constexpr auto BaseCESwitchType_2_elements = element_rows(BaseCESwitchType_2_items);
 constexpr auto BaseCESwitchType_2_sequence = sequence_rows(BaseCESwitchType_2_items);
+constexpr auto BaseCESwitchType_2_values = plain_rows(BaseCESwitchType_2_items);
 constexpr type_description BaseCESwitchType_2_description = {
     .name = "BaseCESwitchType_2",
     .first_step = 55000,
     .is_extension = true,
-    .content = content_of(BaseCESwitchType_2_items, BaseCESwitchType_2_sequence, BaseCESwitchType_2_elements),
+    .content = content_of(BaseCESwitchType_2_items, BaseCESwitchType_2_sequence, BaseCESwitchType_2_elements,
+        BaseCESwitchType_2_values),
 };
 
 constexpr item BaseCESwitchType_items[] = {
@@ -1412,25 +1606,31 @@ constexpr item BaseCESwitchType_items[] = {
 constexpr auto BaseCESwitchType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseCESwitchType_2_items>());
 constexpr auto BaseCESwitchType_sequence = sequence_rows(BaseCESwitchType_items);
+constexpr auto BaseCESwitchType_values = plain_rows(BaseCESwitchType_items);
 constexpr type_description BaseCESwitchType_description = {
     .name = "BaseCESwitchType",
     .first_step = 54000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseCESwitchType_items, BaseCESwitchType_sequence, BaseCESwitchType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseCESwitchType_items, BaseCESwitchType_sequence, BaseCESwitchType_elements,
+        BaseCESwitchType_values),
 };
 
 constexpr item BaseKestoType_2_items[] = {
     {.name = "isValidated", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseKestoType_2, isValidated), .decode = child<XmlDT_BaseKestoType_2_isValidated>},
+     .offset = offsetof(BaseKestoType_2, isValidated), .decode = child<XmlDT_BaseKestoType_2_isValidated>,
+     .tokens = &tokens::BaseKestoType_2_isValidated},
 };
 constexpr auto BaseKestoType_2_elements = element_rows(BaseKestoType_2_items);
 constexpr auto BaseKestoType_2_sequence = sequence_rows(BaseKestoType_2_items);
+constexpr auto BaseKestoType_2_values = plain_rows(BaseKestoType_2_items);
 constexpr type_description BaseKestoType_2_description = {
     .name = "BaseKestoType_2",
     .first_step = 57000,
     .is_extension = true,
-    .content = content_of(BaseKestoType_2_items, BaseKestoType_2_sequence, BaseKestoType_2_elements),
+    .content = content_of(BaseKestoType_2_items, BaseKestoType_2_sequence, BaseKestoType_2_elements,
+        BaseKestoType_2_values),
 };
 
 constexpr item BaseKestoType_items[] = {
@@ -1443,12 +1643,15 @@ constexpr item BaseKestoType_items[] = {
 constexpr auto BaseKestoType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseKestoType_2_items>());
 constexpr auto BaseKestoType_sequence = sequence_rows(BaseKestoType_items);
+constexpr auto BaseKestoType_values = plain_rows(BaseKestoType_items);
 constexpr type_description BaseKestoType_description = {
     .name = "BaseKestoType",
     .first_step = 56000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseKestoType_items, BaseKestoType_sequence, BaseKestoType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseKestoType_items, BaseKestoType_sequence, BaseKestoType_elements,
+        BaseKestoType_values),
 };
 
 constexpr item BasePortType_2_items[] = {
@@ -1467,19 +1670,23 @@ constexpr item BasePortType_2_items[] = {
 };
 constexpr auto BasePortType_2_elements = element_rows(BasePortType_2_items);
 constexpr auto BasePortType_2_sequence = sequence_rows(BasePortType_2_items);
+constexpr auto BasePortType_2_values = plain_rows(BasePortType_2_items);
 constexpr type_description BasePortType_2_description = {
     .name = "BasePortType_2",
     .first_step = 59000,
     .is_extension = true,
-    .content = content_of(BasePortType_2_items, BasePortType_2_sequence, BasePortType_2_elements),
+    .content = content_of(BasePortType_2_items, BasePortType_2_sequence, BasePortType_2_elements,
+        BasePortType_2_values),
 };
 
 constexpr auto BasePortType_own_attributes = std::to_array<item>({
     {.name = "portUsage", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BasePortType, portUsage), .decode = child<XmlDT_PortUsageType>},
+     .offset = offsetof(BasePortType, portUsage), .decode = child<XmlDT_PortUsageType>,
+     .tokens = &tokens::PortUsageType},
 });
 constexpr auto BasePortType_attributes = joined(BaseEntityType_attributes, BasePortType_own_attributes);
 constexpr auto BasePortType_attribute_names = attribute_rows(BasePortType_attributes);
+constexpr auto BasePortType_attribute_values = plain_rows(BasePortType_attributes);
 constexpr item BasePortType_items[] = {
     {.name = "BaseEntityType", .kind = item_kind::group, .occurs = occurrence::optional,
      .offset = offsetof(BasePortType, base), .decode = child<XmlDT_BaseEntityType>},
@@ -1489,34 +1696,42 @@ constexpr item BasePortType_items[] = {
 };
 constexpr auto BasePortType_elements = joined(BaseEntityType_inherited, leading_rows<BasePortType_2_items>());
 constexpr auto BasePortType_sequence = sequence_rows(BasePortType_items);
+constexpr auto BasePortType_values = plain_rows(BasePortType_items);
 constexpr auto BasePortType_inherited = joined(BaseEntityType_inherited,
     base_group_rows(BasePortType_2_items));
 constexpr type_description BasePortType_description = {
     .name = "BasePortType",
     .first_step = 58000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BasePortType_attributes, BasePortType_attribute_names),
-    .content = content_of(BasePortType_items, BasePortType_sequence, BasePortType_elements),
+    .attributes = attributes_of(BasePortType_attributes, BasePortType_attribute_names,
+        BasePortType_attribute_values),
+    .content = content_of(BasePortType_items, BasePortType_sequence, BasePortType_elements,
+        BasePortType_values),
 };
 
 constexpr auto BaseConsoleType_own_attributes = std::to_array<item>({
     {.name = "usage", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(BaseConsoleType, usage), .decode = child<XmlDT_BaseConsoleType_usage>},
+     .offset = offsetof(BaseConsoleType, usage), .decode = child<XmlDT_BaseConsoleType_usage>,
+     .tokens = &tokens::BaseConsoleType_usage},
 });
 constexpr auto BaseConsoleType_attributes = joined(BasePortType_attributes, BaseConsoleType_own_attributes);
 constexpr auto BaseConsoleType_attribute_names = attribute_rows(BaseConsoleType_attributes);
+constexpr auto BaseConsoleType_attribute_values = plain_rows(BaseConsoleType_attributes);
 constexpr item BaseConsoleType_items[] = {
     {.name = "BasePortType", .kind = item_kind::group, .occurs = occurrence::required,
      .offset = offsetof(BaseConsoleType, base), .decode = child<XmlDT_BasePortType>},
 };
 constexpr auto BaseConsoleType_elements = BasePortType_inherited;
 constexpr auto BaseConsoleType_sequence = sequence_rows(BaseConsoleType_items);
+constexpr auto BaseConsoleType_values = plain_rows(BaseConsoleType_items);
 constexpr type_description BaseConsoleType_description = {
     .name = "BaseConsoleType",
     .first_step = 60000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseConsoleType_attributes, BaseConsoleType_attribute_names),
-    .content = content_of(BaseConsoleType_items, BaseConsoleType_sequence, BaseConsoleType_elements),
+    .attributes = attributes_of(BaseConsoleType_attributes, BaseConsoleType_attribute_names,
+        BaseConsoleType_attribute_values),
+    .content = content_of(BaseConsoleType_items, BaseConsoleType_sequence, BaseConsoleType_elements,
+        BaseConsoleType_values),
 };
 
 constexpr item BaseModuleType_2_items[] = {
@@ -1583,11 +1798,13 @@ constexpr item BaseModuleType_2_items[] = {
 };
 constexpr auto BaseModuleType_2_elements = element_rows(BaseModuleType_2_items);
 constexpr auto BaseModuleType_2_sequence = sequence_rows(BaseModuleType_2_items);
+constexpr auto BaseModuleType_2_values = plain_rows(BaseModuleType_2_items);
 constexpr type_description BaseModuleType_2_description = {
     .name = "BaseModuleType_2",
     .first_step = 62000,
     .is_extension = true,
-    .content = content_of(BaseModuleType_2_items, BaseModuleType_2_sequence, BaseModuleType_2_elements),
+    .content = content_of(BaseModuleType_2_items, BaseModuleType_2_sequence, BaseModuleType_2_elements,
+        BaseModuleType_2_values),
 };
 
 constexpr item BaseModuleType_items[] = {
@@ -1600,14 +1817,17 @@ constexpr item BaseModuleType_items[] = {
 constexpr auto BaseModuleType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseModuleType_2_items>());
 constexpr auto BaseModuleType_sequence = sequence_rows(BaseModuleType_items);
+constexpr auto BaseModuleType_values = plain_rows(BaseModuleType_items);
 constexpr auto BaseModuleType_inherited = joined(BaseEntityType_inherited,
     base_group_rows(BaseModuleType_2_items));
 constexpr type_description BaseModuleType_description = {
     .name = "BaseModuleType",
     .first_step = 61000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseModuleType_items, BaseModuleType_sequence, BaseModuleType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseModuleType_items, BaseModuleType_sequence, BaseModuleType_elements,
+        BaseModuleType_values),
 };
 
 constexpr item OpticsType_2_items[] = {
@@ -1644,11 +1864,13 @@ constexpr item OpticsType_2_items[] = {
 };
 constexpr auto OpticsType_2_elements = element_rows(OpticsType_2_items);
 constexpr auto OpticsType_2_sequence = sequence_rows(OpticsType_2_items);
+constexpr auto OpticsType_2_values = plain_rows(OpticsType_2_items);
 constexpr type_description OpticsType_2_description = {
     .name = "OpticsType_2",
     .first_step = 64000,
     .is_extension = true,
-    .content = content_of(OpticsType_2_items, OpticsType_2_sequence, OpticsType_2_elements),
+    .content = content_of(OpticsType_2_items, OpticsType_2_sequence, OpticsType_2_elements,
+        OpticsType_2_values),
 };
 
 constexpr item OpticsType_items[] = {
@@ -1660,12 +1882,14 @@ constexpr item OpticsType_items[] = {
 };
 constexpr auto OpticsType_elements = joined(BaseModuleType_inherited, leading_rows<OpticsType_2_items>());
 constexpr auto OpticsType_sequence = sequence_rows(OpticsType_items);
+constexpr auto OpticsType_values = plain_rows(OpticsType_items);
 constexpr type_description OpticsType_description = {
     .name = "OpticsType",
     .first_step = 63000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(OpticsType_items, OpticsType_sequence, OpticsType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(OpticsType_items, OpticsType_sequence, OpticsType_elements, OpticsType_values),
 };
 
 constexpr item PEMType_2_items[] = {
@@ -1675,17 +1899,20 @@ constexpr item PEMType_2_items[] = {
     {.name = "hoursUsage", .kind = item_kind::uint32, .occurs = occurrence::required,
      .offset = offsetof(PEMType_2, hoursUsage)},
     {.name = "faultStatus", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PEMType_2, faultStatus), .decode = child<XmlDT_PEMType_2_faultStatus>},
+     .offset = offsetof(PEMType_2, faultStatus), .decode = child<XmlDT_PEMType_2_faultStatus>,
+     .tokens = &tokens::PEMType_2_faultStatus},
     {.name = "psmState", .kind = item_kind::simple, .occurs = occurrence::required,
-     .offset = offsetof(PEMType_2, psmState), .decode = child<XmlDT_PEMType_2_psmState>},
+     .offset = offsetof(PEMType_2, psmState), .decode = child<XmlDT_PEMType_2_psmState>,
+     .tokens = &tokens::PEMType_2_psmState},
 };
 constexpr auto PEMType_2_elements = element_rows(PEMType_2_items);
 constexpr auto PEMType_2_sequence = sequence_rows(PEMType_2_items);
+constexpr auto PEMType_2_values = plain_rows(PEMType_2_items);
 constexpr type_description PEMType_2_description = {
     .name = "PEMType_2",
     .first_step = 66000,
     .is_extension = true,
-    .content = content_of(PEMType_2_items, PEMType_2_sequence, PEMType_2_elements),
+    .content = content_of(PEMType_2_items, PEMType_2_sequence, PEMType_2_elements, PEMType_2_values),
 };
 
 constexpr item PEMType_items[] = {
@@ -1697,12 +1924,14 @@ constexpr item PEMType_items[] = {
 };
 constexpr auto PEMType_elements = joined(BaseModuleType_inherited, leading_rows<PEMType_2_items>());
 constexpr auto PEMType_sequence = sequence_rows(PEMType_items);
+constexpr auto PEMType_values = plain_rows(PEMType_items);
 constexpr type_description PEMType_description = {
     .name = "PEMType",
     .first_step = 65000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(PEMType_items, PEMType_sequence, PEMType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(PEMType_items, PEMType_sequence, PEMType_elements, PEMType_values),
 };
 
 constexpr item FanTrayType_2_items[] = {
@@ -1712,11 +1941,13 @@ constexpr item FanTrayType_2_items[] = {
 };
 constexpr auto FanTrayType_2_elements = element_rows(FanTrayType_2_items);
 constexpr auto FanTrayType_2_sequence = sequence_rows(FanTrayType_2_items);
+constexpr auto FanTrayType_2_values = plain_rows(FanTrayType_2_items);
 constexpr type_description FanTrayType_2_description = {
     .name = "FanTrayType_2",
     .first_step = 68000,
     .is_extension = true,
-    .content = content_of(FanTrayType_2_items, FanTrayType_2_sequence, FanTrayType_2_elements),
+    .content = content_of(FanTrayType_2_items, FanTrayType_2_sequence, FanTrayType_2_elements,
+        FanTrayType_2_values),
 };
 
 constexpr item FanTrayType_items[] = {
@@ -1728,12 +1959,14 @@ constexpr item FanTrayType_items[] = {
 };
 constexpr auto FanTrayType_elements = joined(BaseModuleType_inherited, leading_rows<FanTrayType_2_items>());
 constexpr auto FanTrayType_sequence = sequence_rows(FanTrayType_items);
+constexpr auto FanTrayType_values = plain_rows(FanTrayType_items);
 constexpr type_description FanTrayType_description = {
     .name = "FanTrayType",
     .first_step = 67000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(FanTrayType_items, FanTrayType_sequence, FanTrayType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(FanTrayType_items, FanTrayType_sequence, FanTrayType_elements, FanTrayType_values),
 };
 
 constexpr item BackPlaneType_2_items[] = {
@@ -1749,11 +1982,13 @@ constexpr item BackPlaneType_2_items[] = {
 };
 constexpr auto BackPlaneType_2_elements = element_rows(BackPlaneType_2_items);
 constexpr auto BackPlaneType_2_sequence = sequence_rows(BackPlaneType_2_items);
+constexpr auto BackPlaneType_2_values = plain_rows(BackPlaneType_2_items);
 constexpr type_description BackPlaneType_2_description = {
     .name = "BackPlaneType_2",
     .first_step = 70000,
     .is_extension = true,
-    .content = content_of(BackPlaneType_2_items, BackPlaneType_2_sequence, BackPlaneType_2_elements),
+    .content = content_of(BackPlaneType_2_items, BackPlaneType_2_sequence, BackPlaneType_2_elements,
+        BackPlaneType_2_values),
 };
 
 constexpr item BackPlaneType_items[] = {
@@ -1766,12 +2001,15 @@ constexpr item BackPlaneType_items[] = {
 constexpr auto BackPlaneType_elements = joined(BaseEntityType_inherited,
     leading_rows<BackPlaneType_2_items>());
 constexpr auto BackPlaneType_sequence = sequence_rows(BackPlaneType_items);
+constexpr auto BackPlaneType_values = plain_rows(BackPlaneType_items);
 constexpr type_description BackPlaneType_description = {
     .name = "BackPlaneType",
     .first_step = 69000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BackPlaneType_items, BackPlaneType_sequence, BackPlaneType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BackPlaneType_items, BackPlaneType_sequence, BackPlaneType_elements,
+        BackPlaneType_values),
 };
 
 constexpr item FanType_2_items[] = {
@@ -1783,11 +2021,12 @@ constexpr item FanType_2_items[] = {
 };
 constexpr auto FanType_2_elements = element_rows(FanType_2_items);
 constexpr auto FanType_2_sequence = sequence_rows(FanType_2_items);
+constexpr auto FanType_2_values = plain_rows(FanType_2_items);
 constexpr type_description FanType_2_description = {
     .name = "FanType_2",
     .first_step = 72000,
     .is_extension = true,
-    .content = content_of(FanType_2_items, FanType_2_sequence, FanType_2_elements),
+    .content = content_of(FanType_2_items, FanType_2_sequence, FanType_2_elements, FanType_2_values),
 };
 
 constexpr item FanType_items[] = {
@@ -1799,12 +2038,14 @@ constexpr item FanType_items[] = {
 };
 constexpr auto FanType_elements = joined(BaseEntityType_inherited, leading_rows<FanType_2_items>());
 constexpr auto FanType_sequence = sequence_rows(FanType_items);
+constexpr auto FanType_values = plain_rows(FanType_items);
 constexpr type_description FanType_description = {
     .name = "FanType",
     .first_step = 71000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(FanType_items, FanType_sequence, FanType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(FanType_items, FanType_sequence, FanType_elements, FanType_values),
 };
 
 constexpr item BaseModuleTestType_2_items[] = {
@@ -1830,12 +2071,13 @@ constexpr item BaseModuleTestType_2_items[] = {
 };
 constexpr auto BaseModuleTestType_2_elements = element_rows(BaseModuleTestType_2_items);
 constexpr auto BaseModuleTestType_2_sequence = sequence_rows(BaseModuleTestType_2_items);
+constexpr auto BaseModuleTestType_2_values = plain_rows(BaseModuleTestType_2_items);
 constexpr type_description BaseModuleTestType_2_description = {
     .name = "BaseModuleTestType_2",
     .first_step = 74000,
     .is_extension = true,
     .content = content_of(BaseModuleTestType_2_items, BaseModuleTestType_2_sequence,
-        BaseModuleTestType_2_elements),
+        BaseModuleTestType_2_elements, BaseModuleTestType_2_values),
 };
 
 constexpr item BaseModuleTestType_items[] = {
@@ -1848,12 +2090,15 @@ constexpr item BaseModuleTestType_items[] = {
 constexpr auto BaseModuleTestType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseModuleTestType_2_items>());
 constexpr auto BaseModuleTestType_sequence = sequence_rows(BaseModuleTestType_items);
+constexpr auto BaseModuleTestType_values = plain_rows(BaseModuleTestType_items);
 constexpr type_description BaseModuleTestType_description = {
     .name = "BaseModuleTestType",
     .first_step = 73000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(BaseModuleTestType_items, BaseModuleTestType_sequence, BaseModuleTestType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(BaseModuleTestType_items, BaseModuleTestType_sequence, BaseModuleTestType_elements,
+        BaseModuleTestType_values),
 };
 
 constexpr item BaseCraftInterfaceType_2_items[] = {
@@ -1869,12 +2114,13 @@ constexpr item BaseCraftInterfaceType_2_items[] = {
 };
 constexpr auto BaseCraftInterfaceType_2_elements = element_rows(BaseCraftInterfaceType_2_items);
 constexpr auto BaseCraftInterfaceType_2_sequence = sequence_rows(BaseCraftInterfaceType_2_items);
+constexpr auto BaseCraftInterfaceType_2_values = plain_rows(BaseCraftInterfaceType_2_items);
 constexpr type_description BaseCraftInterfaceType_2_description = {
     .name = "BaseCraftInterfaceType_2",
     .first_step = 76000,
     .is_extension = true,
     .content = content_of(BaseCraftInterfaceType_2_items, BaseCraftInterfaceType_2_sequence,
-        BaseCraftInterfaceType_2_elements),
+        BaseCraftInterfaceType_2_elements, BaseCraftInterfaceType_2_values),
 };
 
 constexpr item BaseCraftInterfaceType_items[] = {
@@ -1888,13 +2134,15 @@ constexpr item BaseCraftInterfaceType_items[] = {
 constexpr auto BaseCraftInterfaceType_elements = joined(BaseEntityType_inherited,
     leading_rows<BaseCraftInterfaceType_2_items>());
 constexpr auto BaseCraftInterfaceType_sequence = sequence_rows(BaseCraftInterfaceType_items);
+constexpr auto BaseCraftInterfaceType_values = plain_rows(BaseCraftInterfaceType_items);
 constexpr type_description BaseCraftInterfaceType_description = {
     .name = "BaseCraftInterfaceType",
     .first_step = 75000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
     .content = content_of(BaseCraftInterfaceType_items, BaseCraftInterfaceType_sequence,
-        BaseCraftInterfaceType_elements),
+        BaseCraftInterfaceType_elements, BaseCraftInterfaceType_values),
 };
 
 constexpr item ChassisEntityType_2_items[] = {
@@ -1927,12 +2175,13 @@ constexpr item ChassisEntityType_2_items[] = {
 };
 constexpr auto ChassisEntityType_2_elements = element_rows(ChassisEntityType_2_items);
 constexpr auto ChassisEntityType_2_sequence = sequence_rows(ChassisEntityType_2_items);
+constexpr auto ChassisEntityType_2_values = plain_rows(ChassisEntityType_2_items);
 constexpr type_description ChassisEntityType_2_description = {
     .name = "ChassisEntityType_2",
     .first_step = 78000,
     .is_extension = true,
     .content = content_of(ChassisEntityType_2_items, ChassisEntityType_2_sequence,
-        ChassisEntityType_2_elements),
+        ChassisEntityType_2_elements, ChassisEntityType_2_values),
 };
 
 constexpr item ChassisEntityType_items[] = {
@@ -1945,12 +2194,15 @@ constexpr item ChassisEntityType_items[] = {
 constexpr auto ChassisEntityType_elements = joined(BaseEntityType_inherited,
     leading_rows<ChassisEntityType_2_items>());
 constexpr auto ChassisEntityType_sequence = sequence_rows(ChassisEntityType_items);
+constexpr auto ChassisEntityType_values = plain_rows(ChassisEntityType_items);
 constexpr type_description ChassisEntityType_description = {
     .name = "ChassisEntityType",
     .first_step = 77000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(ChassisEntityType_items, ChassisEntityType_sequence, ChassisEntityType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(ChassisEntityType_items, ChassisEntityType_sequence, ChassisEntityType_elements,
+        ChassisEntityType_values),
 };
 
 constexpr item PowerShelfType_2_items[] = {
@@ -1976,11 +2228,13 @@ constexpr item PowerShelfType_2_items[] = {
 };
 constexpr auto PowerShelfType_2_elements = element_rows(PowerShelfType_2_items);
 constexpr auto PowerShelfType_2_sequence = sequence_rows(PowerShelfType_2_items);
+constexpr auto PowerShelfType_2_values = plain_rows(PowerShelfType_2_items);
 constexpr type_description PowerShelfType_2_description = {
     .name = "PowerShelfType_2",
     .first_step = 80000,
     .is_extension = true,
-    .content = content_of(PowerShelfType_2_items, PowerShelfType_2_sequence, PowerShelfType_2_elements),
+    .content = content_of(PowerShelfType_2_items, PowerShelfType_2_sequence, PowerShelfType_2_elements,
+        PowerShelfType_2_values),
 };
 
 constexpr item PowerShelfType_items[] = {
@@ -1993,12 +2247,15 @@ constexpr item PowerShelfType_items[] = {
 constexpr auto PowerShelfType_elements = joined(BaseEntityType_inherited,
     leading_rows<PowerShelfType_2_items>());
 constexpr auto PowerShelfType_sequence = sequence_rows(PowerShelfType_items);
+constexpr auto PowerShelfType_values = plain_rows(PowerShelfType_items);
 constexpr type_description PowerShelfType_description = {
     .name = "PowerShelfType",
     .first_step = 79000,
     .xmlns = offsetof(BaseEntityType, xmlns),
-    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names),
-    .content = content_of(PowerShelfType_items, PowerShelfType_sequence, PowerShelfType_elements),
+    .attributes = attributes_of(BaseEntityType_attributes, BaseEntityType_attribute_names,
+        BaseEntityType_attribute_values),
+    .content = content_of(PowerShelfType_items, PowerShelfType_sequence, PowerShelfType_elements,
+        PowerShelfType_values),
 };
 
 }  // namespace

@@ -59,8 +59,10 @@ int32_t decode_attributes(xb_context *ctx, const type_description &type, void *r
     if (count < 0)
         return report(ctx, count, type.first_step + step_attribute_count);
     uint64_t seen = 0;
+    const attribute_table &table = type.attributes;
     for (int32_t i = 0; i < count; ++i) {
-        if (rtXmlpSelectAttribute(ctx, i) >= 0)
+        i = rtXmlpDecPlainAttributes(ctx, table.names, table.count, table.plain, i, record, &seen);
+        if (i < count && rtXmlpSelectAttribute(ctx, i) >= 0)
             decode_selected(ctx, type, record, &seen);
     }
     rtXmlpHideAttributes(ctx);

@@ -93,10 +93,11 @@ struct item {
     occurrence occurs = occurrence::required;
     uint32_t offset = 0;
     presence_bit present = {0, 0};
-    uint32_t node_size = 0;          // of the record behind a list node
-    initialiser init = nullptr;      // of that record
-    child_decoder decode = nullptr;  // for simple, record and group
-    const char *counter = nullptr;   // name of the word count, for counted elements
+    uint32_t node_size = 0;             // of the record behind a list node
+    initialiser init = nullptr;         // of that record
+    child_decoder decode = nullptr;     // for simple, record and group
+    const char *counter = nullptr;      // name of the word count, for counted elements
+    const xb_tokens *tokens = nullptr;  // of an enumeration
 };
 
 struct attribute_table {
@@ -104,6 +105,7 @@ struct attribute_table {
     const item *items = nullptr;
     int32_t count = 0;
     uint64_t required = 0;  // bit n: row n is required
+    const xb_plain_row *plain = nullptr;
 };
 
 struct content_table {
@@ -114,6 +116,7 @@ struct content_table {
     bool has_counted = false;
     const xb_element_row *elements = nullptr;
     int32_t element_count = 0;
+    const xb_plain_row *plain = nullptr;  // null: no item is plain
 };
 
 // Extension contents have no tag of their own: neither declarations nor attributes.
@@ -147,10 +150,7 @@ struct root_description {
     child_decoder decode;
 };
 
-struct enumeration {
-    const xb_enum_row *rows;  // sorted by token
-    uint32_t count;
-};
+using enumeration = xb_tokens;  // rows sorted by token
 
 using token_converter = int32_t (*)(const char *text, int32_t length, uint32_t *code);
 

@@ -185,6 +185,10 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
     const bool group = rtXmlpIsDecodeAsGroup(ctx);
     int32_t position = 0;
     while (position < content.count) {
+        position = rtXmlpDecPlainElements(ctx, content.elements, content.element_count, content.sequence,
+                                          content.plain, position, content.count, record);
+        if (position >= content.count)
+            break;
         int32_t index = rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count, content.sequence,
                                                position, content.last_required, group);
         if (index < 0)

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "decode/description.h"
+#include "decode/name_links.h"
 
 namespace inv::decode
 {
@@ -49,7 +50,8 @@ constexpr std::array<xb_element_row, N> element_rows(const item (&items)[N])
 {
     std::array<xb_element_row, N> rows = {};
     for (size_t i = 0; i < N; ++i)
-        rows[i] = {items[i].name, length_of(items[i].name), static_cast<int32_t>(i)};
+        rows[i] = {items[i].name, length_of(items[i].name), static_cast<int32_t>(i), {}};
+    link_rows(rows);
     return rows;
 }
 
@@ -58,7 +60,62 @@ constexpr std::array<xb_attribute_row, N> attribute_rows(const std::array<item, 
 {
     std::array<xb_attribute_row, N> rows = {};
     for (size_t i = 0; i < N; ++i)
-        rows[i] = {items[i].name, length_of(items[i].name)};
+        rows[i] = {items[i].name, length_of(items[i].name), {}};
+    link_rows(rows);
+    return rows;
+}
+
+// What the runtime's short ways decode of the items.
+constexpr uint8_t plain_kind_of(const item &row)
+{
+    if (row.occurs == occurrence::repeated || row.occurs == occurrence::counted)
+        return XB_PLAIN_NONE;
+    switch (row.kind) {
+    case item_kind::int8:
+        return XB_PLAIN_INT8;
+    case item_kind::uint8:
+        return XB_PLAIN_UINT8;
+    case item_kind::int16:
+        return XB_PLAIN_INT16;
+    case item_kind::uint16:
+        return XB_PLAIN_UINT16;
+    case item_kind::int32:
+        return XB_PLAIN_INT32;
+    case item_kind::uint32:
+        return XB_PLAIN_UINT32;
+    case item_kind::int64:
+        return XB_PLAIN_INT64;
+    case item_kind::boolean:
+        return XB_PLAIN_BOOLEAN;
+    case item_kind::text:
+        return XB_PLAIN_TEXT;
+    case item_kind::simple:
+        return row.tokens != nullptr ? XB_PLAIN_TOKEN : XB_PLAIN_NONE;
+    default:
+        return XB_PLAIN_NONE;
+    }
+}
+
+constexpr xb_plain_row plain_row_of(const item &row)
+{
+    return {row.tokens, row.offset, row.present.offset, row.present.mask, plain_kind_of(row)};
+}
+
+template <size_t N>
+constexpr std::array<xb_plain_row, N> plain_rows(const item (&items)[N])
+{
+    std::array<xb_plain_row, N> rows = {};
+    for (size_t i = 0; i < N; ++i)
+        rows[i] = plain_row_of(items[i]);
+    return rows;
+}
+
+template <size_t N>
+constexpr std::array<xb_plain_row, N> plain_rows(const std::array<item, N> &items)
+{
+    std::array<xb_plain_row, N> rows = {};
+    for (size_t i = 0; i < N; ++i)
+        rows[i] = plain_row_of(items[i]);
     return rows;
 }
 
@@ -68,6 +125,8 @@ constexpr std::array<T, N + M> joined(const std::array<T, N> &first, const std::
     std::array<T, N + M> rows = {};
     for (size_t i = 0; i < N + M; ++i)
         rows[i] = i < N ? first[i] : second[i - N];
+    if constexpr (requires { rows[0].link; })
+        link_rows(rows);
     return rows;
 }
 
@@ -89,7 +148,8 @@ constexpr auto leading_rows()
     constexpr auto leading = static_cast<size_t>(sequence_rows(Items)[0].count);
     std::array<xb_element_row, leading> rows = {};
     for (size_t i = 0; i < leading; ++i)
-        rows[i] = {Items[i].name, length_of(Items[i].name), 1};
+        rows[i] = {Items[i].name, length_of(Items[i].name), 1, {}};
+    link_rows(rows);
     return rows;
 }
 
@@ -104,7 +164,8 @@ constexpr bool any_counted(const item (&items)[N])
 
 template <size_t N, size_t M>
 constexpr content_table content_of(const item (&items)[N], const std::array<xb_sequence_row, N> &sequence,
-                                   const std::array<xb_element_row, M> &elements)
+                                   const std::array<xb_element_row, M> &elements,
+                                   const std::array<xb_plain_row, N> &plain)
 {
     return {.items = items,
             .sequence = sequence.data(),
@@ -112,15 +173,17 @@ constexpr content_table content_of(const item (&items)[N], const std::array<xb_s
             .last_required = last_required_of(items),
             .has_counted = any_counted(items),
             .elements = elements.data(),
-            .element_count = static_cast<int32_t>(M)};
+            .element_count = static_cast<int32_t>(M),
+            .plain = plain.data()};
 }
 
 template <size_t N>
 constexpr attribute_table attributes_of(const std::array<item, N> &items,
-                                        const std::array<xb_attribute_row, N> &names)
+                                        const std::array<xb_attribute_row, N> &names,
+                                        const std::array<xb_plain_row, N> &plain)
 {
     static_assert(N <= 64, "one bit per attribute");
-    attribute_table table = {names.data(), items.data(), static_cast<int32_t>(N), 0};
+    attribute_table table = {names.data(), items.data(), static_cast<int32_t>(N), 0, plain.data()};
     for (size_t i = 0; i < N; ++i) {
         if (!is_skippable(items[i]))
             table.required |= uint64_t{1} << i;

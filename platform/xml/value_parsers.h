@@ -1,0 +1,58 @@
+// From texts to numbers, by XML Schema's lexical rules.
+#ifndef PLATFORM_XML_VALUE_PARSERS_H
+#define PLATFORM_XML_VALUE_PARSERS_H
+
+#include "characters.h"
+#include "inv_platform/xml_runtime.h"
+
+#include <charconv>
+#include <limits>
+#include <type_traits>
+
+namespace inv::xml
+{
+
+struct signed_text {
+    bool negative;
+    std::string_view magnitude;
+};
+
+inline signed_text split_sign(std::string_view text)
+{
+    bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+'))
+        text.remove_prefix(1);
+    return {negative, text};
+}
+
+// The magnitude is worked out with one bit more than the type has, so that its least value fits.
+template <typename Integer>
+int32_t parse_integer(std::string_view text, Integer &value)
+{
+    auto [negative, magnitude] = split_sign(collapsed(text));
+    uint64_t number = 0;
+    const char *end = magnitude.data() + magnitude.size();
+    auto parsed = std::from_chars(magnitude.data(), end, number);
+    if (magnitude.empty() || parsed.ptr != end)
+        return XB_E_BAD_INTEGER;
+    auto greatest = static_cast<uint64_t>(std::numeric_limits<Integer>::max());
+    uint64_t limit = !negative ? greatest : std::is_signed_v<Integer> ? greatest + 1 : 0;
+    if (parsed.ec != std::errc() || number > limit)
+        return XB_E_OUT_OF_RANGE;
+    value = static_cast<Integer>(negative ? 0 - number : number);
+    return XB_OK;
+}
+
+inline int32_t parse_boolean(std::string_view text, uint8_t &value)
+{
+    text = collapsed(text);
+    bool is_true = text == "true" || text == "1";
+    if (!is_true && text != "false" && text != "0")
+        return XB_E_BAD_BOOLEAN;
+    value = is_true ? 1 : 0;
+    return XB_OK;
+}
+
+}  // namespace inv::xml
+
+#endif
