@@ -1,13 +1,14 @@
 #!/bin/sh
 # Installs the Debian packages that the named sets need and the machine lacks, and says so.
-#   tools/install_packages.sh build [test] [check]
+#   tools/install_packages.sh build [test] [check] [package]
 set -eu
 
 packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build libexpat1-dev libboost-dev libcli11-dev nlohmann-json3-dev ;;
     test) echo libgtest-dev libgmock-dev libbenchmark-dev libxml2-utils ;;
-    check) echo clang libclang-rt-14-dev clang-format ;;
+    check) echo clang libclang-rt-14-dev clang-format clang-tidy cppcheck abigail-tools pkgconf binutils ;;
+    package) echo debhelper dpkg-dev fakeroot lintian debootstrap ;;
     *) echo "unknown package set: $1" >&2; exit 2 ;;
     esac
 }
