@@ -5,6 +5,7 @@ JOBS ?= $(shell nproc)
 export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 # Set to an empty value to leave the machine's packages alone.
 INSTALL ?= yes
+PREFIX ?= /usr/local
 # For each fuzz target.
 FUZZ_SECONDS ?= 20
 BUILD := build/dev
@@ -19,11 +20,18 @@ cmake --preset $(1) --log-level=WARNING >/dev/null
 cmake --build --preset $(1) -j $(JOBS) $(2)
 endef
 
-.PHONY: help run test check bench bench-short regenerate install format clean
-.PHONY: check-clang check-asan check-tsan check-fuzz check-format
+# The build that is checked as what is installed.
+define interface
+$(call packages,build check)
+$(call build,interface)
+endef
+
+.PHONY: help run test check bench bench-short regenerate regenerate-abi install packages format clean
+.PHONY: check-format check-abi check-install check-hardening check-lint check-packages
+.PHONY: check-clang check-asan check-tsan check-fuzz
 
 help: ## this list
-	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 14
+	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 18
 
 run: ## install what is missing, build, print a sample line card's tree and the way to a sensor
 	$(call packages,build)
@@ -37,7 +45,29 @@ test: ## one build and its tests
 	$(call build,dev)
 	ctest --preset dev
 
-check: check-format check-clang check-asan check-tsan check-fuzz ## second compiler, sanitizers, the slow rest
+# The fast ones first.
+check: check-format check-abi check-hardening check-install check-lint ## interface, analysis, second compiler, sanitizers
+check: check-clang check-asan check-tsan check-fuzz
+
+check-abi: ## exported interface and layouts of both libraries against the committed description
+	$(call interface)
+	tools/check_abi.sh build/interface
+
+check-hardening: ## protections of the libraries and the command, read from their ELF files
+	$(call interface)
+	tools/check_hardening.sh build/interface
+
+check-install: ## C11 and C++20 clients of an installed library, by find_package and by pkg-config
+	$(call interface)
+	tools/check_install.sh build/interface
+
+check-lint: ## clang-tidy and cppcheck without findings over libraries and tools
+	$(call packages,build check)
+	cmake --preset interface --log-level=WARNING >/dev/null
+	tools/check_lint.sh build/interface $(JOBS)
+
+check-packages: packages ## packages installed in a fresh minimal system, and a first look from there (root, network)
+	tools/check_packages.sh build/packages
 
 check-clang: ## build and all tests with the second compiler
 	$(call packages,build test check)
@@ -79,9 +109,17 @@ regenerate: ## rewrite the generated sources and documents
 	$(BUILD)/tools/schemac/schemac schema/OrvelianInventory.xsd --source-dir shared_pkg/common/schema/parser/src --header-dir shared_pkg/common/schema/parser/include/inv_parser
 	tools/trace_docs.sh > docs/trace-messages.md
 
+regenerate-abi: ## rewrite the committed description of the interface, after a change on purpose
+	$(call interface)
+	tools/check_abi.sh --regenerate build/interface
+
+packages: ## the Debian packages, in build/packages
+	$(call packages,build package)
+	tools/build_packages.sh build/packages
+
 install: ## install library, platform, command and sample inventories (DESTDIR, PREFIX)
 	$(call packages,build)
-	cmake --preset release $(if $(PREFIX),-DCMAKE_INSTALL_PREFIX=$(PREFIX)) --log-level=WARNING >/dev/null
+	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) --log-level=WARNING >/dev/null
 	cmake --build --preset release -j $(JOBS)
 	cmake --install build/release
 

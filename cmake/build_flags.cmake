@@ -22,6 +22,25 @@ if(INV_COVERAGE)
     target_link_options(inv_build_flags INTERFACE --coverage)
 endif()
 
+# What makes a fault in hostile input a clean end instead of a way in. Sanitizers and builds without optimisation,
+# which have checks of their own or none to spare, go without; tools/check_hardening.sh reads the result.
+if(INV_HARDENING AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT INV_SANITIZE AND NOT INV_COVERAGE)
+    include(CheckCompilerFlag)
+    # The last three exist on some architectures only.
+    foreach(flag -fstack-protector-strong -fno-plt -fstack-clash-protection -fcf-protection)
+        string(MAKE_C_IDENTIFIER "INV_HAS${flag}" known)
+        check_compiler_flag(CXX ${flag} ${known})
+        if(${known})
+            target_compile_options(inv_build_flags INTERFACE ${flag})
+        endif()
+    endforeach()
+    # A distribution's own level would be in the way of ours.
+    target_compile_options(inv_build_flags INTERFACE -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+    target_link_options(inv_build_flags INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
+include(CheckPIESupported)
+check_pie_supported()
+
 find_program(INV_CCACHE ccache)
 if(INV_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${INV_CCACHE})

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that the named sets need and the machine lacks, and says so.
-#   tools/install_packages.sh build [test] [check] [bench]
+#   tools/install_packages.sh build [test] [check] [bench] [package]
 set -eu
 
 packages_of() {
@@ -8,7 +8,8 @@ packages_of() {
     build) echo g++ cmake ninja-build libexpat1-dev libboost-dev libcli11-dev nlohmann-json3-dev ;;
     test) echo libgtest-dev libgmock-dev libxml2-utils ;;
     bench) echo libpugixml-dev librapidxml-dev libxml2-dev libbenchmark-dev ;;
-    check) echo clang libclang-rt-14-dev clang-format ;;
+    check) echo clang libclang-rt-14-dev clang-format clang-tidy cppcheck abigail-tools pkgconf binutils ;;
+    package) echo debhelper dpkg-dev fakeroot lintian debootstrap ;;
     *) echo "unknown package set: $1" >&2; exit 2 ;;
     esac
 }

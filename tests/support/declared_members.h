@@ -5,16 +5,21 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
-inline std::string public_headers_without_comments()
+// The headers of a folder below the sources, in the order of their names.
+inline std::string public_headers_without_comments(
+    const std::string &folder = "/shared_pkg/common/schema/parser/include/inv_parser")
 {
+    std::set<std::filesystem::path> headers;
+    for (const auto &entry : std::filesystem::directory_iterator(INV_SOURCE_DIR + folder))
+        headers.insert(entry.path());
     std::stringstream text;
-    std::filesystem::path folder = INV_SOURCE_DIR "/shared_pkg/common/schema/parser/include/inv_parser";
-    for (const auto &entry : std::filesystem::directory_iterator(folder))
-        text << std::ifstream(entry.path()).rdbuf();
+    for (const auto &header : headers)
+        text << std::ifstream(header).rdbuf();
     std::string code;
     bool comment = false;
     std::string all = text.str();

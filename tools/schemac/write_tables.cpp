@@ -73,7 +73,7 @@ std::string item_row(const home &h, const item &i)
     std::vector<std::string> of_list = is_list(i) ? list_fields(h, i) : std::vector<std::string>();
     const std::string suffix = i.kind == value_kind::choice ? "_derivations" : "";
     if (has_decoder(i))
-        of_list.insert(of_list.begin() + (of_list.empty() ? 0 : 2),
+        of_list.insert(of_list.empty() ? of_list.end() : of_list.begin() + 2,
                        ".decode = child<XmlDT_" + i.type + suffix + ">");
     fields.insert(fields.end(), of_list.begin(), of_list.end());
     if (i.kind == value_kind::enumeration && !is_list(i))

@@ -30,6 +30,7 @@ void put(side_record **table, size_t count, side_record *record)
 bool grow()
 {
     size_t count = place_count == 0 ? 16 : place_count * 2;
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the table holds pointers
     auto **table = static_cast<side_record **>(memory::request(count * sizeof(side_record *)));
     if (table == nullptr)
         return false;

@@ -129,7 +129,7 @@ namespace inv::msg
         static constexpr char format[] = text;                                                               \
         static constexpr uint32_t has_string = trace_rules::count(argument_kinds, 's') > 0 ? 1 : 0;          \
         static_assert(trace_rules::agrees(text, argument_kinds), "the format disagrees with the kinds");     \
-        static_assert(trace_rules::size_word(argument_kinds) == size, "wrong size word for the kinds");      \
+        static_assert(trace_rules::size_word(argument_kinds) == (size), "wrong size word for the kinds");    \
     };
 #include "frame/trace_messages.def"
 #undef INV_TRACE_MESSAGE

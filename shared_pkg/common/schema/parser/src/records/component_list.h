@@ -19,7 +19,7 @@ const Decoded *plain_value(const xb_data_node *node)
 template <class Decoded>
 const Decoded *chosen_value(const xb_data_node *node)
 {
-    auto *choice = static_cast<const xb_choice *>(node->data);
+    const auto *choice = static_cast<const xb_choice *>(node->data);
     return choice == nullptr ? nullptr : static_cast<const Decoded *>(choice->value);
 }
 
