@@ -70,11 +70,16 @@ bench: ## benchmarks: open and close of documents with up to 100,000 entities, a
 
 regenerate: ## rewrite the generated sources and documents
 	$(call packages,build test)
-	$(call build,dev,--target schemac)
+	$(call build,dev,--target schemac schemaman)
 	$(BUILD)/tools/schemac/schemac schema/OrvelianInventory.xsd --source-dir shared_pkg/common/schema/parser/src --header-dir shared_pkg/common/schema/parser/include/inv_parser
-	tools/trace_docs.sh > docs/trace-messages.md
+	tools/trace_docs.sh shared_pkg/common/schema/parser/src/frame/trace_messages.def > docs/trace-messages.md
+	$(BUILD)/tools/schemaman/schemaman schema/OrvelianInventory.xsd > docs/man/inventory.5
+	$(call build,dev,--target invctl)
+	$(BUILD)/tools/invctl/invctl manual > docs/man/invctl.1
+	$(BUILD)/tools/invctl/invctl json --schema > schema/invctl-json.schema.json
+	tests/cli/console_blocks.py docs/tutorial.md --commands $(BUILD)/tools/invctl --folder inventories --fix
 
-install: ## install library, platform, command and sample inventories (DESTDIR, PREFIX)
+install: ## install library, platform, command, manual and sample inventories (DESTDIR, PREFIX)
 	$(call packages,build)
 	cmake --preset release $(if $(PREFIX),-DCMAKE_INSTALL_PREFIX=$(PREFIX)) --log-level=WARNING >/dev/null
 	cmake --build --preset release -j $(JOBS)

@@ -6,7 +6,7 @@ set -eu
 packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build libexpat1-dev libboost-dev libcli11-dev nlohmann-json3-dev ;;
-    test) echo libgtest-dev libgmock-dev libbenchmark-dev libxml2-utils ;;
+    test) echo libgtest-dev libgmock-dev libbenchmark-dev libxml2-utils python3-jsonschema ;;
     check) echo clang libclang-rt-14-dev clang-format ;;
     *) echo "unknown package set: $1" >&2; exit 2 ;;
     esac

@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "decode/engine.h"
+#include "decode/recovery.h"
 #include "decode/values.h"
 
 namespace inv::decode
@@ -12,8 +13,10 @@ int32_t find_code(const enumeration &tokens, const char *text, int32_t length, u
     if (text != nullptr)
         text_length = length < 0 ? std::strlen(text) : static_cast<size_t>(length);
     int32_t row = rtxLookupEnum(text, text_length, tokens.rows, tokens.count);
-    if (row < 0)
+    if (row < 0) {
+        note_failed_lookup(tokens);
         return row;
+    }
     if (code != nullptr)
         *code = tokens.rows[row].code;
     return 0;
@@ -36,7 +39,11 @@ int32_t decode_enumeration(xb_context *ctx, uint32_t first_step, token_converter
     if (status < 0)
         rtxErrAddStrParm(ctx, text);
     rtxMemHeapFreePtr(ctx, text);
-    return status < 0 ? report(ctx, status, first_step + 1) : 0;
+    if (status >= 0)
+        return 0;
+    report(ctx, status, first_step + 1);
+    explain_failed_token(ctx);
+    return status;
 }
 
 }  // namespace inv::decode
