@@ -105,9 +105,14 @@ bench-short: ## the same in a minute; fails when a ratio is over twice its targe
 
 regenerate: ## rewrite the generated sources and documents
 	$(call packages,build test)
-	$(call build,dev,--target schemac)
+	$(call build,dev,--target schemac schemaman)
 	$(BUILD)/tools/schemac/schemac schema/OrvelianInventory.xsd --source-dir shared_pkg/common/schema/parser/src --header-dir shared_pkg/common/schema/parser/include/inv_parser
-	tools/trace_docs.sh > docs/trace-messages.md
+	tools/trace_docs.sh shared_pkg/common/schema/parser/src/frame/trace_messages.def > docs/trace-messages.md
+	$(BUILD)/tools/schemaman/schemaman schema/OrvelianInventory.xsd > docs/man/inventory.5
+	$(call build,dev,--target invctl)
+	$(BUILD)/tools/invctl/invctl manual > docs/man/invctl.1
+	$(BUILD)/tools/invctl/invctl json --schema > schema/invctl-json.schema.json
+	tests/cli/console_blocks.py docs/tutorial.md --commands $(BUILD)/tools/invctl --folder inventories --fix
 
 regenerate-abi: ## rewrite the committed description of the interface, after a change on purpose
 	$(call interface)
@@ -117,7 +122,7 @@ packages: ## the Debian packages, in build/packages
 	$(call packages,build package)
 	tools/build_packages.sh build/packages
 
-install: ## install library, platform, command and sample inventories (DESTDIR, PREFIX)
+install: ## install library, platform, command, manual and sample inventories (DESTDIR, PREFIX)
 	$(call packages,build)
 	cmake --preset release -DCMAKE_INSTALL_PREFIX=$(PREFIX) --log-level=WARNING >/dev/null
 	cmake --build --preset release -j $(JOBS)

@@ -5,7 +5,11 @@ install(TARGETS lib_inv_parser inv_platform EXPORT inv_parser LIBRARY DESTINATIO
 install(DIRECTORY shared_pkg/common/schema/parser/include/inv_parser platform/include/inv_platform
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN system_memory.h EXCLUDE)
 install(DIRECTORY inventories DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
-install(FILES schema/OrvelianInventory.xsd DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser/schema)
+install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN man EXCLUDE)
+install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES docs/man/invctl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES docs/man/inventory.5 DESTINATION ${CMAKE_INSTALL_MANDIR}/man5)
 
 # find_package(inv_parser): inv_parser::inv_parser and inv_parser::inv_platform.
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/inv_parser)

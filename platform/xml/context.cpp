@@ -29,6 +29,7 @@ void rtxFreeContext(xb_context *ctx)
         return;
     rtxStreamClose(ctx);
     inv::xml::release_array(ctx->state->errors.further);
+    inv::xml::release_armed(ctx->state->armed);
     inv::xml::heap_release(ctx->state->memory);
     inv::memory::release(ctx->state);
     ctx->state = nullptr;

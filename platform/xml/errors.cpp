@@ -73,7 +73,7 @@ void add_parameter(xb_context_state &state, std::string_view text)
 
 int32_t record_error(xb_context_state &state, int32_t status, bool fatal, const char *source, uint32_t line)
 {
-    xb_error *record = new_record(state.errors);
+    xb_error *record = may_record(state) ? new_record(state.errors) : nullptr;
     if (record == nullptr) {
         state.errors.parameter_count = 0;
         return status;
@@ -89,6 +89,8 @@ int32_t record_error(xb_context_state &state, int32_t status, bool fatal, const 
     record->source_line = line;
     adopt_parameters(state, *record);
     state.errors.travelling = fatal ? state.errors.count : 0;
+    if (state.armed != nullptr)
+        note_error(state);
     return status;
 }
 

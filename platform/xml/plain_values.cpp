@@ -131,7 +131,8 @@ int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int
 {
     reader &r = ctx->state->reader;
     const char *end = nullptr;
-    const char *at = can_read_plain(r) ? r.source.lend(r.source.state, &end) : nullptr;
+    // An armed context wants the place of each item.
+    const char *at = ctx->state->armed == nullptr && can_read_plain(r) ? r.source.lend(r.source.state, &end) : nullptr;
     if (at == nullptr)
         return position;
     int32_t reached = position;
@@ -161,7 +162,7 @@ int32_t rtXmlpDecPlainAttributes(xb_context *ctx, const xb_attribute_row *table,
                                  const xb_plain_row *plain, int32_t index, void *record, uint64_t *seen)
 {
     const tag_stack &tags = ctx->state->reader.tags;
-    if (tags.depth == 0)
+    if (tags.depth == 0 || ctx->state->armed != nullptr)
         return index;
     const element &tag = tags.elements[tags.depth - 1];
     const attribute *items = tags.attributes.items + tag.attribute_begin;

@@ -10,34 +10,12 @@ using json = nlohmann::ordered_json;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-// With INV_REGENERATE_GOLDEN=1 in the environment the golden file is written instead.
-void compare_with_golden(const std::string &name, const std::string &text)
-{
-    const char *rewrite = getenv("INV_REGENERATE_GOLDEN");
-    if (rewrite != nullptr && rewrite[0] == '1')
-        std::ofstream(golden / name, std::ios::binary) << text;
-    std::string expected = read_file(golden / name);
-    ASSERT_NE(expected, "") << name << " is missing";
-    std::istringstream got_lines(text), expected_lines(expected);
-    size_t number = 1;
-    for (std::string got, line; std::getline(expected_lines, line); ++number) {
-        ASSERT_TRUE(std::getline(got_lines, got)) << name << " goes on at line " << number;
-        ASSERT_EQ(got, line) << name << ":" << number;
-    }
-    EXPECT_EQ(text.size(), expected.size()) << name;
-}
-
 class Show : public Invctl
 {
 protected:
-    // Runs in the folder of the samples, so that outputs name files without a path.
     outcome show_sample(const std::string &arguments)
     {
-        fs::path before = fs::current_path();
-        fs::current_path(samples);
-        outcome result = run("show " + arguments);
-        fs::current_path(before);
-        return result;
+        return run_in_samples("show " + arguments);
     }
 
     json json_of(const fs::path &file, const std::string &arguments)

@@ -24,6 +24,7 @@ struct damage {
     random_source random;
     xml_element root;
     std::vector<place> places;
+    std::vector<xml_spot> struck;  // what the fault makes wrong, in the tree as it is then
 };
 
 struct tree_fault {
@@ -39,6 +40,15 @@ void find_places(damage &d);
 
 /* The attribute xsi:type under whatever prefix; null when there is none. */
 std::pair<std::string, std::string> *derived_type_attribute(xml_element &element);
+
+/* Notes what a fault makes wrong: an element's start tag, its newest attribute, one by name, or a child. */
+void strike_tag(damage &d, const xml_element &element);
+void strike_last_attribute(damage &d, const xml_element &element);
+void strike_attribute(damage &d, const xml_element &element, std::string_view name);
+/* A value's first character; the start tag where there is none but white space. */
+void strike_text(damage &d, const xml_element &element);
+/* What stands at the index of the parent's children now, the parent's end tag behind the last one. */
+void strike_child(damage &d, const xml_element &parent, std::size_t index);
 
 std::string_view one_of(damage &d, std::initializer_list<std::string_view> choices);
 

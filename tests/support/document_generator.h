@@ -26,9 +26,18 @@ std::string_view root_element_of(document_kind kind);
 /* A valid document of at most a few hundred elements. */
 std::string random_document(std::uint64_t seed, document_kind kind);
 
+struct text_place {
+    std::size_t line;    // 1-based
+    std::size_t column;  // 1-based, in characters
+};
+
 struct mutant {
     std::string document;
     std::string fault;  // the class, one of fault_names()
+    /* Where the fault stands: a tag's '<', an attribute's name, a value's first character. Of elements in a
+     * wrong order either may be called the wrong one; of documents that are not well-formed a reader may
+     * point at the token or within it. */
+    std::vector<text_place> places;
 };
 
 std::vector<std::string_view> fault_names();

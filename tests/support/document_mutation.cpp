@@ -1,5 +1,6 @@
 #include "support/document_damage.h"
 
+#include <algorithm>
 #include <array>
 
 namespace inv_testing
@@ -86,34 +87,89 @@ void unquoted_attribute(std::string &text, random_source &random)
     text.erase(random_markup(random, text, "=\"") + 1, 1);
 }
 
+text_place place_in(const std::string &text, std::size_t offset);
+
+/* From the tag's or the reference's first character up to the one that cannot stand there. */
+void locate_token(mutant &made, std::size_t changed)
+{
+    const std::size_t begin = changed == 0 ? 0 : made.document.find_last_of("<&>\n", changed - 1);
+    for (std::size_t at = begin == std::string::npos ? 0 : begin;
+         at <= changed + 1 && at <= made.document.size(); ++at)
+        made.places.push_back(place_in(made.document, at));
+}
+
+/* The end tag that closes another element than it says: the next one on the removed one's level. */
+void locate_unclosed(mutant &made, std::size_t changed)
+{
+    const std::string &text = made.document;
+    int depth = 0;
+    for (std::size_t at = text.find('<', changed); at != std::string::npos; at = text.find('<', at + 1)) {
+        const bool closes = text.compare(at, 2, "</") == 0;
+        const bool is_empty = text.compare(text.find('>', at) - 1, 2, "/>") == 0;
+        if (closes && depth-- == 0) {
+            made.places = {place_in(text, at), place_in(text, at + 2)};
+            return;
+        }
+        depth += !closes && !is_empty;
+    }
+    made.places = {place_in(text, text.size())};
+}
+
+void locate_end(mutant &made, std::size_t)
+{
+    const std::size_t tag = made.document.rfind('<');
+    if (made.document.find('>', tag) == std::string::npos)
+        made.places.push_back(place_in(made.document, tag));
+    locate_token(made, made.document.size());
+}
+
 struct text_fault {
     std::string_view name;
     void (*apply)(std::string &, random_source &);
+    void (*locate)(mutant &, std::size_t changed);
 };
 
 constexpr std::array<text_fault, 10> text_faults = {{
-    {"unclosed_tag", unclosed_tag},
-    {"mismatched_end_tag", mismatched_end_tag},
-    {"truncated", truncated},
-    {"unknown_entity", unknown_entity},
-    {"bad_utf8", bad_utf8},
-    {"control_character", control_character},
-    {"text_behind_root", text_behind_root},
-    {"second_root", second_root},
-    {"less_than_in_attribute", less_than_in_attribute},
-    {"unquoted_attribute", unquoted_attribute},
+    {"unclosed_tag", unclosed_tag, locate_unclosed},
+    {"mismatched_end_tag", mismatched_end_tag, locate_token},
+    {"truncated", truncated, locate_end},
+    {"unknown_entity", unknown_entity, locate_token},
+    {"bad_utf8", bad_utf8, locate_token},
+    {"control_character", control_character, locate_token},
+    {"text_behind_root", text_behind_root, locate_token},
+    {"second_root", second_root, locate_token},
+    {"less_than_in_attribute", less_than_in_attribute, locate_token},
+    {"unquoted_attribute", unquoted_attribute, locate_token},
 }};
+
+text_place place_in(const std::string &text, std::size_t offset)
+{
+    const std::size_t begin = offset == 0 ? 0 : text.rfind('\n', offset - 1) + 1;
+    const auto starts_character = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+    const auto at = [&](std::size_t where) { return text.begin() + static_cast<std::ptrdiff_t>(where); };
+    const auto lines = std::count(text.begin(), at(begin), '\n');
+    const auto columns = std::count_if(at(begin), at(offset), starts_character);
+    return {static_cast<std::size_t>(lines) + 1, static_cast<std::size_t>(columns) + 1};
+}
+
+std::size_t first_visible(const std::string &text, const xml_spot &spot)
+{
+    return spot.part == xml_part::text ? text.find_first_not_of(" \t\n\r", spot.offset) : spot.offset;
+}
 
 std::optional<mutant> spoil_tree(const std::string &document, random_source random, const tree_fault &fault)
 {
     std::optional<xml_element> root = parse_xml(document);
     if (!root)
         return std::nullopt;
-    damage d{product_schema(), random, std::move(*root), {}};
+    damage d{product_schema(), random, std::move(*root), {}, {}};
     find_places(d);
     if (d.places.empty() || !fault.apply(d))
         return std::nullopt;
-    return mutant{write_xml(d.root), std::string(fault.name)};
+    mutant made{write_xml(d.root, d.struck), std::string(fault.name), {}};
+    for (const xml_spot &spot : d.struck)
+        made.places.push_back(place_in(made.document, first_visible(made.document, spot)));
+    return made;
 }
 
 }  // namespace
@@ -124,6 +180,37 @@ std::pair<std::string, std::string> *derived_type_attribute(xml_element &element
         if (attribute.first.ends_with(":type"))
             return &attribute;
     return nullptr;
+}
+
+void strike_tag(damage &d, const xml_element &element)
+{
+    d.struck.push_back({&element, xml_part::start_tag});
+}
+
+void strike_last_attribute(damage &d, const xml_element &element)
+{
+    d.struck.push_back({&element, xml_part::attribute, element.attributes.size() - 1});
+}
+
+void strike_attribute(damage &d, const xml_element &element, std::string_view name)
+{
+    for (std::size_t i = 0; i < element.attributes.size(); ++i)
+        if (element.attributes[i].first == name)
+            d.struck.push_back({&element, xml_part::attribute, i});
+}
+
+void strike_text(damage &d, const xml_element &element)
+{
+    const bool is_blank = element.text.find_first_not_of(" \t\n\r") == std::string::npos;
+    d.struck.push_back({&element, is_blank ? xml_part::start_tag : xml_part::text});
+}
+
+void strike_child(damage &d, const xml_element &parent, std::size_t index)
+{
+    if (index < parent.children.size())
+        strike_tag(d, parent.children[index]);
+    else
+        d.struck.push_back({&parent, xml_part::end_tag});
 }
 
 std::string_view one_of(damage &d, std::initializer_list<std::string_view> choices)
@@ -158,8 +245,11 @@ std::optional<mutant> mutate_with(const std::string &document, std::uint64_t see
     for (const text_fault &row : text_faults) {
         if (row.name != fault)
             continue;
-        mutant made{document, std::string(fault)};
+        mutant made{document, std::string(fault), {}};
         row.apply(made.document, random);
+        const auto differs =
+            std::mismatch(document.begin(), document.end(), made.document.begin(), made.document.end());
+        row.locate(made, static_cast<std::size_t>(differs.second - made.document.begin()));
         return made;
     }
     return std::nullopt;
@@ -172,7 +262,7 @@ mutant mutate(const std::string &document, std::uint64_t seed)
     for (int attempt = 0; attempt < 100; ++attempt)
         if (auto made = mutate_with(document, seed, names[draw_below(random, names.size())]))
             return std::move(*made);
-    return {document + "tail", "text_behind_root"};
+    return *mutate_with(document, seed, "text_behind_root");
 }
 
 }  // namespace inv_testing

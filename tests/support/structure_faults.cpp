@@ -19,14 +19,17 @@ bool is_shared(std::string_view name)
 bool rename_element(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.parent != nullptr; });
-    if (at != nullptr)
-        at->element->name += 'X';
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->name += 'X';
+    strike_tag(d, *at->element);
+    return true;
 }
 
 bool wrong_root(damage &d)
 {
     d.root.name = "inventory";
+    strike_tag(d, d.root);
     return true;
 }
 
@@ -34,6 +37,7 @@ bool stray_element(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.type->is_complex; });
     at->element->children.push_back({"strayElement", {}, "1", {}});
+    strike_tag(d, at->element->children.back());
     return true;
 }
 
@@ -50,9 +54,11 @@ bool drop_required_element(damage &d)
         return p.parent != nullptr && p.item->required && p.item->optional_group == 0 &&
                count_of(*p.parent, p.element->name) == 1;
     });
-    if (at != nullptr)
-        at->parent->children.erase(at->parent->children.begin() + static_cast<std::ptrdiff_t>(at->index));
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->parent->children.erase(at->parent->children.begin() + static_cast<std::ptrdiff_t>(at->index));
+    strike_child(d, *at->parent, at->index);
+    return true;
 }
 
 bool drop_required_attribute(damage &d)
@@ -69,6 +75,7 @@ bool drop_required_attribute(damage &d)
             names.push_back(item.name);
     const std::string &name = names[draw_below(d.random, names.size())];
     std::erase_if(at->element->attributes, [&](const auto &attribute) { return attribute.first == name; });
+    strike_tag(d, *at->element);
     return true;
 }
 
@@ -78,9 +85,12 @@ bool swap_elements(damage &d)
         return p.parent != nullptr && p.index + 1 < p.parent->children.size() &&
                p.parent->children[p.index + 1].name != p.element->name && !is_shared(p.element->name);
     });
-    if (at != nullptr)
-        std::swap(at->parent->children[at->index], at->parent->children[at->index + 1]);
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    std::swap(at->parent->children[at->index], at->parent->children[at->index + 1]);
+    strike_child(d, *at->parent, at->index);
+    strike_child(d, *at->parent, at->index + 1);
+    return true;
 }
 
 bool duplicate_element(damage &d)
@@ -92,6 +102,7 @@ bool duplicate_element(damage &d)
         return false;
     const xml_element copy = *at->element;
     at->parent->children.insert(at->parent->children.begin() + static_cast<std::ptrdiff_t>(at->index), copy);
+    strike_child(d, *at->parent, at->index + 1);
     return true;
 }
 
@@ -99,15 +110,18 @@ bool unknown_attribute(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.type->is_complex && !p.type->attributes.empty(); });
     at->element->attributes.emplace_back("colour", "red");
+    strike_last_attribute(d, *at->element);
     return true;
 }
 
 bool attribute_on_plain_type(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.type->attributes.empty(); });
-    if (at != nullptr)
-        at->element->attributes.emplace_back("colour", "red");
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->attributes.emplace_back("colour", "red");
+    strike_last_attribute(d, *at->element);
+    return true;
 }
 
 bool foreign_attribute(damage &d)
@@ -115,6 +129,7 @@ bool foreign_attribute(damage &d)
     place *at = pick(d, [](const place &p) { return !p.type->attributes.empty(); });
     at->element->attributes.emplace_back("xmlns:other", "urn:other");
     at->element->attributes.emplace_back("other:mark", "1");
+    strike_last_attribute(d, *at->element);
     return true;
 }
 
@@ -122,6 +137,7 @@ bool undeclared_attribute_prefix(damage &d)
 {
     place *at = pick(d, [](const place &p) { return !p.type->attributes.empty(); });
     at->element->attributes.emplace_back("other:mark", "1");
+    strike_last_attribute(d, *at->element);
     return true;
 }
 
@@ -129,47 +145,58 @@ bool duplicate_attribute(damage &d)
 {
     place *at = pick(d, [](const place &p) { return !p.element->attributes.empty(); });
     at->element->attributes.push_back(at->element->attributes.front());
+    strike_tag(d, *at->element);
+    strike_last_attribute(d, *at->element);
     return true;
 }
 
 bool undeclared_element_prefix(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.parent != nullptr; });
-    if (at != nullptr)
-        at->element->name.insert(0, "other:");
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->name.insert(0, "other:");
+    strike_tag(d, *at->element);
+    return true;
 }
 
 bool foreign_namespace(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.parent != nullptr; });
-    if (at != nullptr)
-        at->element->attributes.emplace_back("xmlns", "urn:other");
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->attributes.emplace_back("xmlns", "urn:other");
+    strike_tag(d, *at->element);
+    return true;
 }
 
 bool stray_text(damage &d)
 {
     place *at = pick(d, [](const place &p) { return p.type->is_complex && !p.element->children.empty(); });
-    if (at != nullptr)
-        at->element->text = "stray";
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->text = "stray";
+    strike_text(d, *at->element);
+    return true;
 }
 
 bool element_in_value(damage &d)
 {
     place *at = pick(d, [](const place &p) { return !p.type->is_complex; });
-    if (at != nullptr)
-        at->element->children.push_back({"b", {}, "", {}});
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->children.push_back({"b", {}, "", {}});
+    strike_tag(d, at->element->children.back());
+    return true;
 }
 
-void name_type(xml_element &element, std::string_view type_name)
+void name_type(damage &d, xml_element &element, std::string_view type_name)
 {
-    if (auto *named = derived_type_attribute(element))
-        named->second = type_name;
-    else
-        element.attributes.emplace_back("xsi:type", type_name);
+    if (derived_type_attribute(element) == nullptr)
+        element.attributes.emplace_back("xsi:type", "");
+    auto *named = derived_type_attribute(element);
+    named->second = type_name;
+    strike_attribute(d, element, named->first);
 }
 
 place *pick_polymorphic(damage &d)
@@ -183,7 +210,7 @@ bool unknown_derived_type(damage &d)
 {
     place *at = pick_polymorphic(d);
     if (at != nullptr)
-        name_type(*at->element, one_of(d, {"NoSuchType", "baseModuleType", "other:BaseModuleType", ""}));
+        name_type(d, *at->element, one_of(d, {"NoSuchType", "baseModuleType", "other:BaseModuleType", ""}));
     return at != nullptr;
 }
 
@@ -198,7 +225,7 @@ bool foreign_derived_type(damage &d)
         if (d.schema.types[i].is_complex && !d.schema.types[i].name.empty() && i != at->item->type &&
             std::find(allowed.begin(), allowed.end(), i) == allowed.end())
             names.push_back(d.schema.types[i].name);
-    name_type(*at->element, names[draw_below(d.random, names.size())]);
+    name_type(d, *at->element, names[draw_below(d.random, names.size())]);
     return true;
 }
 
@@ -207,7 +234,7 @@ bool derived_type_on_plain_element(damage &d)
     place *at =
         pick(d, [&](const place &p) { return p.parent != nullptr && p.type->is_complex && !p.type->base; });
     if (at != nullptr)
-        name_type(*at->element, "BaseLEDType");
+        name_type(d, *at->element, "BaseLEDType");
     return at != nullptr;
 }
 
@@ -231,6 +258,7 @@ bool shared_name_in_extension(damage &d)
     const auto where = children.insert(first_own, {"hardwareVersion", {}, "7", {}});
     if (!passed)
         children.insert(where, {"driverId", {}, "1", {}});
+    strike_tag(d, *at->element);
     return true;
 }
 

@@ -14,6 +14,8 @@ namespace
 struct value_slot {
     std::string *text;
     const schema_type *type;
+    const xml_element *element;
+    std::string_view attribute;  // empty: the element's text
 };
 
 template <typename Predicate>
@@ -23,13 +25,13 @@ std::optional<value_slot> pick_value(damage &d, Predicate &&fits)
     for (place &candidate : d.places) {
         if (!candidate.type->is_complex) {
             if (fits(*candidate.type))
-                slots.push_back({&candidate.element->text, candidate.type});
+                slots.push_back({&candidate.element->text, candidate.type, candidate.element, {}});
             continue;
         }
         for (auto &[name, value] : candidate.element->attributes)
             if (const schema_item *item = find_item(candidate.type->attributes, name))
                 if (fits(d.schema.types[item->type]))
-                    slots.push_back({&value, &d.schema.types[item->type]});
+                    slots.push_back({&value, &d.schema.types[item->type], candidate.element, name});
     }
     if (slots.empty())
         return std::nullopt;
@@ -40,9 +42,14 @@ template <typename Predicate, typename Make>
 bool spoil_value(damage &d, Predicate &&fits, Make &&make)
 {
     const std::optional<value_slot> slot = pick_value(d, fits);
-    if (slot)
-        *slot->text = make(*slot);
-    return slot.has_value();
+    if (!slot)
+        return false;
+    *slot->text = make(*slot);
+    if (slot->attribute.empty())
+        strike_text(d, *slot->element);
+    else
+        strike_attribute(d, *slot->element, slot->attribute);
+    return true;
 }
 
 bool is_number(const schema_type &type)
@@ -68,9 +75,11 @@ bool empty_number(damage &d)
 bool empty_short_element(damage &d)
 {
     place *at = pick(d, [](const place &p) { return !p.type->is_complex && p.type->is_short; });
-    if (at != nullptr)
-        at->element->text.clear();
-    return at != nullptr;
+    if (at == nullptr)
+        return false;
+    at->element->text.clear();
+    strike_text(d, *at->element);
+    return true;
 }
 
 bool out_of_range(damage &d)

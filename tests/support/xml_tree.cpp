@@ -63,27 +63,57 @@ void append_escaped(std::string &out, std::string_view text)
     }
 }
 
-void append_element(std::string &out, const xml_element &element, std::size_t depth)
-{
-    out.append(2 * depth, ' ');
-    out += '<' + element.name;
-    for (const auto &[name, value] : element.attributes) {
-        out += ' ' + name + "=\"";
-        append_escaped(out, value);
-        out += '"';
+struct writer {
+    std::string out;
+    std::vector<xml_spot> &spots;
+    std::size_t tag_begin = 0;  // of the start tag written last
+
+    void mark(const xml_element &element, xml_part part, std::size_t attribute = 0)
+    {
+        mark_at(out.size(), element, part, attribute);
     }
+    void mark_at(std::size_t offset, const xml_element &element, xml_part part, std::size_t attribute = 0)
+    {
+        for (xml_spot &spot : spots)
+            if (spot.element == &element && spot.part == part && spot.attribute == attribute)
+                spot.offset = offset;
+    }
+};
+
+void append_start_tag(writer &to, const xml_element &element)
+{
+    to.mark(element, xml_part::start_tag);
+    to.tag_begin = to.out.size();
+    to.out += '<' + element.name;
+    for (std::size_t i = 0; i < element.attributes.size(); ++i) {
+        to.out += ' ';
+        to.mark(element, xml_part::attribute, i);
+        to.out += element.attributes[i].first + "=\"";
+        append_escaped(to.out, element.attributes[i].second);
+        to.out += '"';
+    }
+}
+
+void append_element(writer &to, const xml_element &element, std::size_t depth)
+{
+    std::string &out = to.out;
+    out.append(2 * depth, ' ');
+    append_start_tag(to, element);
     if (element.children.empty() && element.text.empty()) {
+        to.mark_at(to.tag_begin, element, xml_part::end_tag);
         out += "/>\n";
         return;
     }
     out += '>';
+    to.mark(element, xml_part::text);
     append_escaped(out, element.text);
     if (!element.children.empty()) {
         out += '\n';
         for (const xml_element &child : element.children)
-            append_element(out, child, depth + 1);
+            append_element(to, child, depth + 1);
         out.append(2 * depth, ' ');
     }
+    to.mark(element, xml_part::end_tag);
     out += "</" + element.name + ">\n";
 }
 
@@ -105,9 +135,15 @@ std::optional<xml_element> parse_xml(std::string_view document)
 
 std::string write_xml(const xml_element &root)
 {
-    std::string out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-    append_element(out, root, 0);
-    return out;
+    std::vector<xml_spot> none;
+    return write_xml(root, none);
+}
+
+std::string write_xml(const xml_element &root, std::vector<xml_spot> &spots)
+{
+    writer to = {"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n", spots, 0};
+    append_element(to, root, 0);
+    return std::move(to.out);
 }
 
 const std::string *find_attribute(const xml_element &element, std::string_view name)

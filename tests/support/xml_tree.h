@@ -24,6 +24,16 @@ std::optional<xml_element> parse_xml(std::string_view document);
 /* With declaration and indentation; texts and values are escaped. */
 std::string write_xml(const xml_element &root);
 
+/* A spot of a document whose place in the written text is asked for. */
+enum class xml_part { start_tag, end_tag, attribute, text };
+struct xml_spot {
+    const xml_element *element; /* in the tree that is written */
+    xml_part part;
+    std::size_t attribute = 0; /* its number */
+    std::size_t offset = 0;    /* filled: of the tag's '<', the attribute's name, the text */
+};
+std::string write_xml(const xml_element &root, std::vector<xml_spot> &spots);
+
 const std::string *find_attribute(const xml_element &element, std::string_view name);
 
 }  // namespace inv_testing

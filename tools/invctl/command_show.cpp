@@ -28,12 +28,6 @@ node_list chosen_entities(const entity_records &known, const show_options &optio
     return chosen;
 }
 
-std::string heading(const eid_chain_node *node)
-{
-    return invctl::eid_text(node) + "  \"" + invctl::printable(node->record->name) + "\"  xml " +
-           std::to_string(node->record->xml_instance) + "\n";
-}
-
 json entity_json(const eid_chain_node *node, const entity_records &known)
 {
     const invctl::record_table &table = known.table(node->record);
@@ -47,7 +41,7 @@ json entity_json(const eid_chain_node *node, const entity_records &known)
 std::string entity_text(const eid_chain_node *node, const entity_records &known)
 {
     const invctl::record_table &table = known.table(node->record);
-    return heading(node) + "record: " + table.name + "\n" +
+    return invctl::entity_heading(node) + "\nrecord: " + table.name + "\n" +
            invctl::record_text(table, node->record, known, 0);
 }
 
@@ -102,7 +96,7 @@ int print_chosen(const invctl::document &opened, const entity_records &known, co
     if (chosen.size() > 1) {
         fprintf(stderr, "%s: %zu entities answer to that:\n", opened.path.c_str(), chosen.size());
         for (const eid_chain_node *node : chosen)
-            fprintf(stderr, "  %s", heading(node).c_str());
+            fprintf(stderr, "  %s\n", invctl::entity_heading(node).c_str());
         return invctl::exit_trouble;
     }
     print_one(opened, chosen.front(), known, options.json);

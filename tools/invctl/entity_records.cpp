@@ -1,8 +1,10 @@
 #include "entity_records.h"
 
+#include <array>
 #include <cstring>
 
 #include "entity_words.h"
+#include "output.h"
 #include "record_reader.h"
 
 namespace
@@ -125,6 +127,23 @@ std::string eid_text(const eid_chain_node *node)
         text = eid_level(*node->record) + "/" + text;
     }
     return text;
+}
+
+std::string entity_heading(const eid_chain_node *node)
+{
+    return eid_text(node) + "  \"" + printable(node->record->name) + "\"  xml " +
+           std::to_string(node->record->xml_instance);
+}
+
+std::span<const char *const> unit_kinds()
+{
+    static const auto kinds = [] {
+        std::array<const char *, std::size(unit_tables)> names = {};
+        for (size_t i = 0; i < names.size(); ++i)
+            names[i] = unit_tables[i].kind;
+        return names;
+    }();
+    return kinds;
 }
 
 bool has_eid(const eid_chain_node *node, const sch_eid_type &eid)

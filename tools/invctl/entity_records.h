@@ -2,6 +2,7 @@
 #ifndef INVCTL_ENTITY_RECORDS_H
 #define INVCTL_ENTITY_RECORDS_H
 
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -36,6 +37,12 @@ entity_records find_entity_records(const document &opened);
 // The levels from the top down, as parse_eid() reads them. Of an entity deeper than an EID can say only
 // the last levels.
 std::string eid_text(const eid_chain_node *node);
+
+// "eid  "name"  xml 3": an entity in a line.
+std::string entity_heading(const eid_chain_node *node);
+
+// Root elements of documents, each of a unit of its own kind.
+std::span<const char *const> unit_kinds();
 
 bool has_eid(const eid_chain_node *node, const sch_eid_type &eid);
 

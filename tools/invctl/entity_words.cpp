@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <set>
 #include <string_view>
 
 #include "OrvelianInventorySchema.h"
@@ -12,6 +13,7 @@ namespace
 constexpr std::string_view type_prefix = "ORVL_ENTITY_TYPE_";
 constexpr std::string_view subtype_prefix = "ORVL_ENTITY_SUBTYPE_";
 constexpr std::string_view owner_prefix = "ORVL_ENTITY_OWNER_TYPE_";
+constexpr std::string_view node_prefix = "ORVL_NODE_TYPE_";
 constexpr uint8_t type_count = 13;
 
 std::string lower(std::string_view text)
@@ -25,6 +27,24 @@ std::string lower(std::string_view text)
 std::string without_prefix(std::string_view token, std::string_view prefix)
 {
     return lower(token.starts_with(prefix) ? token.substr(prefix.size()) : token);
+}
+
+// The words of an enumeration without gaps: past its last code no token has the prefix.
+std::vector<std::string> words_of(const char *(*token)(uint32_t), std::string_view prefix)
+{
+    std::vector<std::string> words;
+    for (uint32_t code = 0; std::string_view(token(code)).starts_with(prefix); ++code)
+        words.push_back(without_prefix(token(code), prefix));
+    return words;
+}
+
+// A subtype's word without that of the type it belongs to.
+std::string without_type(const std::string &subtype)
+{
+    for (const std::string &type : words_of(EidType_ToString, type_prefix))
+        if (subtype.starts_with(type + "_"))
+            return subtype.substr(type.size() + 1);
+    return subtype;
 }
 
 }  // namespace
@@ -82,11 +102,41 @@ std::optional<uint32_t> subtype_code_of_word(uint8_t type, const std::string &wo
     return std::nullopt;
 }
 
+std::vector<std::string> entity_types()
+{
+    return words_of(EidType_ToString, type_prefix);
+}
+
+std::vector<std::string> entity_subtypes()
+{
+    std::vector<std::string> words;
+    std::set<std::string> known;
+    for (const std::string &whole : words_of(EidSubType_ToString, subtype_prefix))
+        if (known.insert(without_type(whole)).second)
+            words.push_back(without_type(whole));
+    return words;
+}
+
+std::vector<std::string> entity_owners()
+{
+    return words_of(EntityOwnerType_ToString, owner_prefix);
+}
+
+std::vector<std::string> node_types()
+{
+    return words_of(NodeInfoType_nodeType_ToString, node_prefix);
+}
+
+bool has_subtype(const sch_base_entity_type &entity, const std::string &word)
+{
+    return word == without_type(without_prefix(EidSubType_ToString(entity.global_subtype), subtype_prefix));
+}
+
 std::string all_type_words()
 {
     std::string words;
-    for (uint8_t type = 0; type < type_count; ++type)
-        words += (type == 0 ? "" : ", ") + without_prefix(EidType_ToString(type), type_prefix);
+    for (const std::string &word : entity_types())
+        words += (words.empty() ? "" : ", ") + word;
     return words;
 }
 

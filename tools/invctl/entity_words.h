@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "inv_parser/inv_parser.h"
 
@@ -28,6 +29,15 @@ std::optional<uint8_t> type_of_word(const std::string &word);
 
 // The schema's code of the subtype that a word of subtype_word() names for an entity of the type.
 std::optional<uint32_t> subtype_code_of_word(uint8_t type, const std::string &word);
+
+// All words of a kind, in the order of the schema's tokens; subtypes within their types, each word once.
+std::vector<std::string> entity_types();
+std::vector<std::string> entity_subtypes();
+std::vector<std::string> entity_owners();
+std::vector<std::string> node_types();
+
+// True when a word of entity_subtypes() names the entity's subtype.
+bool has_subtype(const sch_base_entity_type &entity, const std::string &word);
 
 // All words of entity types, for messages: "chassis, backplane, ...".
 std::string all_type_words();

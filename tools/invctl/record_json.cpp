@@ -55,12 +55,8 @@ json field_json(const record_field &field, const void *record, const entity_reco
     case field_kind::list:
     case field_kind::children:
         return linked_json(field, record, known);
-    case field_kind::text:
-        return invctl::valid_utf8(invctl::text_in(field, record).c_str());
-    case field_kind::token:
-        return token_json(field, record);
     default:
-        return number_json(field, record);
+        return invctl::value_json(field, record);
     }
 }
 
@@ -69,11 +65,18 @@ json field_json(const record_field &field, const void *record, const entity_reco
 namespace invctl
 {
 
+json value_json(const record_field &field, const void *record)
+{
+    if (field.kind == field_kind::text)
+        return valid_utf8(text_in(field, record).c_str());
+    return field.kind == field_kind::token ? token_json(field, record) : number_json(field, record);
+}
+
 json record_json(const record_table &table, const void *record, const entity_records &known)
 {
     json object = json::object();
     for (const record_field &field : table.fields) {
-        if (field.kind == field_kind::reserved || field.kind == field_kind::link)
+        if (!is_printed(field))
             continue;
         bool shown = field.has_default || is_given(table, field, record);
         object[field.name] = shown ? field_json(field, record, known) : json(nullptr);

@@ -22,6 +22,10 @@ std::string record_text(const record_table &table, const void *record, const ent
 nlohmann::ordered_json record_json(const record_table &table, const void *record,
                                    const entity_records &known);
 
+// The value of a field that is no record and holds none, as the two print it.
+std::string value_text(const record_field &field, const void *record);
+nlohmann::ordered_json value_json(const record_field &field, const void *record);
+
 }  // namespace invctl
 
 #endif

@@ -43,6 +43,12 @@ struct record_field {
     const record_table &(*record)() = nullptr;      // of nested records, lists and children
 };
 
+// A field that readers of the record see.
+constexpr bool is_printed(const record_field &field)
+{
+    return field.kind != field_kind::reserved && field.kind != field_kind::link;
+}
+
 // Fields in the order of the record, everything but padding.
 struct record_table {
     const char *name;

@@ -28,27 +28,6 @@ std::string token_text(const record_field &field, const void *record)
     return token == nullptr ? code : std::string(token) + " (" + code + ")";
 }
 
-// A field that fits one line.
-std::string value_text(const record_field &field, const void *record)
-{
-    uint64_t value = field.kind == field_kind::text ? 0 : invctl::number_in(field, record);
-    switch (field.kind) {
-    case field_kind::text:
-        return "\"" + invctl::printable(invctl::text_in(field, record).c_str()) + "\"";
-    case field_kind::token:
-        return token_text(field, record);
-    case field_kind::flag:
-        return value > 1 ? std::to_string(value) : value == 1 ? "true" : "false";
-    case field_kind::hex:
-    case field_kind::mask:
-        return hex_text(value, field.width);
-    case field_kind::signed_number:
-        return std::to_string(static_cast<int64_t>(value));
-    default:
-        return std::to_string(value);
-    }
-}
-
 std::string level_text(const void *entity)
 {
     return invctl::eid_level(*static_cast<const sch_base_entity_type *>(entity));
@@ -87,7 +66,7 @@ std::string field_text(const record_field &field, const void *record, const enti
     case field_kind::children:
         return linked_text(field, record, known, indent);
     default:
-        return " " + value_text(field, record) + "\n";
+        return " " + invctl::value_text(field, record) + "\n";
     }
 }
 
@@ -96,13 +75,33 @@ std::string field_text(const record_field &field, const void *record, const enti
 namespace invctl
 {
 
+std::string value_text(const record_field &field, const void *record)
+{
+    uint64_t value = field.kind == field_kind::text ? 0 : number_in(field, record);
+    switch (field.kind) {
+    case field_kind::text:
+        return "\"" + printable(text_in(field, record).c_str()) + "\"";
+    case field_kind::token:
+        return token_text(field, record);
+    case field_kind::flag:
+        return value > 1 ? std::to_string(value) : value == 1 ? "true" : "false";
+    case field_kind::hex:
+    case field_kind::mask:
+        return hex_text(value, field.width);
+    case field_kind::signed_number:
+        return std::to_string(static_cast<int64_t>(value));
+    default:
+        return std::to_string(value);
+    }
+}
+
 // Records hold records a few levels deep at most; what may be endless is linked.
 std::string record_text(const record_table &table, const void *record, const entity_records &known,
                         size_t indent)
 {
     std::string text;
     for (const record_field &field : table.fields) {
-        if (field.kind == field_kind::reserved || field.kind == field_kind::link)
+        if (!is_printed(field))
             continue;
         text += std::string(indent, ' ') + field.name + ":";
         if (is_given(table, field, record))

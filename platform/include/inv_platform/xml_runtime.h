@@ -376,6 +376,85 @@ bool rtxErrGet(const xb_context *ctx, uint32_t index, xb_error *error);
 /* A short English text for a status, without parameters; constant. */
 const char *rtxErrText(int32_t status);
 
+/* --- Armed contexts ----------------------------------------------------------------------- */
+
+/* A context that is armed before its reader is made keeps the place of every decoded item, and decoding
+ * goes on behind a failure where it can: decoders pass over the failing element and take up its next
+ * sibling. Loads never arm a context; the first failure ends their decode. Without rtxArmContext()
+ * everything behaves as if this section did not exist. What is not well-formed, nests too deep or cannot
+ * be read ends the decode of an armed context too, and so does XB_MAX_ARMED_ERRORS. */
+
+/* Greatest number of errors that an armed context records; what fails beyond it is final. */
+#define XB_MAX_ARMED_ERRORS 10000
+
+/* Where a decoded item stands: the '<' of its element, or its attribute's name. */
+typedef struct xb_place {
+    uint64_t line;      /* 1-based */
+    uint64_t column;    /* 1-based, in characters */
+    uint64_t offset;    /* 0-based, in octets */
+    const void *parent; /* record of the element around it (for an attribute its own element's); null
+                           for the root */
+} xb_place;
+
+/* Why an element is out of place. */
+typedef enum xb_misplacement {
+    XB_NAME_FITS,      /* it is not: the error is about something else */
+    XB_NAME_UNKNOWN,   /* the content around has no such element */
+    XB_NAME_ELSEWHERE, /* it has one, at another place or no further one */
+    XB_NAME_FOREIGN    /* the element has a namespace */
+} xb_misplacement;
+
+/* What belongs to a recorded error of an armed context. Pointers stay valid until rtxFreeContext(), or
+ * belong to constant tables. */
+typedef struct xb_error_details {
+    const void *item;         /* record of the innermost element around the error; null: none */
+    const char *element;      /* name of that element as written, or of the one whose value failed; null */
+    bool at_attribute;        /* the error's place is an attribute's name */
+    bool at_tag;              /* the error's place is a tag's '<' */
+    const char *const *words; /* elements, attributes, types or tokens that may stand there */
+    uint32_t word_count;
+    bool has_range; /* the numbers that may stand there are lowest .. highest */
+    int64_t lowest;
+    int64_t highest;
+    xb_misplacement misplaced; /* of the element that stands there */
+} xb_error_details;
+
+/* Arms a context whose reader has not been made. XB_E_BAD_STATE when it has, XB_E_NO_MEMORY. */
+int32_t rtxArmContext(xb_context *ctx);
+bool rtxIsArmed(const xb_context *ctx);
+
+/* Notes where item stands: at the selected attribute, else at the current element. is_record: the
+ * element's record, which is the parent of what is noted within it. Later notes of an item replace
+ * earlier ones. Notes that memory is lacking for are lost. Nothing happens unless ctx is armed; the
+ * same holds for all functions below. */
+void rtxNoteItem(xb_context *ctx, const void *item, bool is_record);
+
+/* Fills *place; false when the item has not been noted. */
+bool rtxPlaceOfItem(const xb_context *ctx, const void *item, xb_place *place);
+
+/* Deals with a recorded failure of the current element's content: what is left of the content is passed
+ * over, so that its end tag comes next. Returns 0, or the status to be passed up: `status` itself when
+ * the context is not armed or the failure is final, else that of the failure met on the way, which has
+ * been recorded. */
+int32_t rtxResumeAtEnd(xb_context *ctx, int32_t status);
+
+/* The same for a failure between two tags: the text ahead is passed over, and with skip_element the
+ * element whose start tag is ahead, too. */
+int32_t rtxResumeAtTag(xb_context *ctx, int32_t status, bool skip_element);
+
+/* Looks at the tag ahead. Returns 1 for a start tag, with its local name (null when it has a namespace)
+ * and its name as written, 0 for an end tag or the document's end, or a status. Its offset in *offset. */
+int32_t rtxPeekTag(xb_context *ctx, const char **local, const char **name, uint64_t *offset);
+
+/* Adds to the error recorded last what might have stood at its place. The words are copied, what they
+ * point to is not. */
+void rtxErrAddWords(xb_context *ctx, const char *const *words, uint32_t count);
+void rtxErrAddRange(xb_context *ctx, int64_t lowest, int64_t highest);
+void rtxErrAddMisplacement(xb_context *ctx, xb_misplacement misplaced);
+
+/* Fills *details of error record index; false when there is none or ctx is not armed. */
+bool rtxErrGetDetails(const xb_context *ctx, uint32_t index, xb_error_details *details);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,5 +1,6 @@
 #include <bit>
 
+#include "decode/recovery.h"
 #include "decode/steps.h"
 #include "decode/values.h"
 
@@ -41,13 +42,19 @@ void decode_selected(xb_context *ctx, const type_description &type, void *record
         *seen |= uint64_t{1} << row;
         step = step_first_attribute + static_cast<uint32_t>(row);
         status = decode_value(ctx, *found, at(record, found->offset));
-        if (status == 0)
+        if (status == 0) {
             set_present(record, *found);
+            note_value(ctx, *found, at(record, found->offset));
+        }
     }
     if (status < 0) {
         size_t length = 0;
         const char *name = rtXmlpGetAttributeName(ctx, &length);
         record_failure(ctx, type, name, length, status, step);
+        if (found != nullptr)
+            explain_value(ctx, found->kind);
+        else if (status == XB_E_ATTRIBUTE_UNKNOWN)
+            explain_attribute(ctx, type.attributes);
     }
 }
 

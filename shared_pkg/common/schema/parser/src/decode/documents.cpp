@@ -1,5 +1,6 @@
 // Type derivations and document roots.
 #include "decode/engine.h"
+#include "decode/recovery.h"
 #include "decode/values.h"
 
 namespace inv::decode
@@ -9,8 +10,11 @@ int32_t decode_choice(xb_context *ctx, const choice_description &choices, xb_cho
 {
     choice->tag = 0;
     int32_t index = rtXmlpGetXSITypeIndex(ctx, choices.names, choices.count);
-    if (index < 0 && index != XB_E_NO_XSI_TYPE)
-        return rtxErrSetData(ctx, index, chooser_source, choices.first_step);
+    if (index < 0 && index != XB_E_NO_XSI_TYPE) {
+        rtxErrSetData(ctx, index, chooser_source, choices.first_step);
+        explain_type(ctx, choices);
+        return index;
+    }
     const uint32_t chosen = index < 0 ? 0 : static_cast<uint32_t>(index);
     const choice_row &row = choices.rows[chosen];
     const uint32_t step = choices.first_step + 2 * chosen;
@@ -18,6 +22,8 @@ int32_t decode_choice(xb_context *ctx, const choice_description &choices, xb_cho
     if (record == nullptr)
         return rtxErrSetData(ctx, XB_E_NO_MEMORY, chooser_source, step + 1);
     row.init(record);
+    if (is_armed(ctx))
+        *choice = {chosen + 1, record};
     int32_t status = row.decode(ctx, record);
     if (status < 0)
         return rtxErrSetData(ctx, status, chooser_source, step + 2);
@@ -31,6 +37,7 @@ namespace
 
 int32_t read_document(xb_context *ctx, const root_description &root, void *record)
 {
+    const armed_document armed(ctx);
     int32_t status = rtXmlpCreateReader(ctx);
     if (status < 0)
         return report(ctx, status, root.first_step);
@@ -42,7 +49,7 @@ int32_t read_document(xb_context *ctx, const root_description &root, void *recor
     if (status < 0)
         return report(ctx, status, root.first_step + 2);
     status = rtXmlpMatchEndTag(ctx, -1);
-    return status < 0 ? report(ctx, status, root.first_step + 3) : 0;
+    return status < 0 ? resume_behind(ctx, report(ctx, status, root.first_step + 3)) : 0;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "decode/engine.h"
 
+#include "decode/recovery.h"
 #include "decode/steps.h"
 #include "decode/values.h"
 
@@ -72,14 +73,24 @@ int32_t decode_element(xb_context *ctx, const item &row, void *target)
     return decode_value(ctx, row, target);
 }
 
+// Behind a failed element whose failure is recorded.
+int32_t resume_single(xb_context *ctx, const content_row &place, int32_t status)
+{
+    explain_value(ctx, place.row.kind);
+    if (is_armed(ctx) && keeps_partly(place.row))
+        set_present(place.record, place.row);
+    return resume_behind(ctx, status);
+}
+
 int32_t decode_single(xb_context *ctx, const content_row &place)
 {
     int32_t status = decode_element(ctx, place.row, at(place.record, place.row.offset));
     if (status < 0)
-        return report_at(ctx, place, status, step_decode);
+        return resume_single(ctx, place, report_at(ctx, place, status, step_decode));
+    note_value(ctx, place.row, at(place.record, place.row.offset));
     set_present(place.record, place.row);
     status = rtXmlpMatchEndTag(ctx, -1);
-    return status < 0 ? report_at(ctx, place, status, step_end_tag) : 0;
+    return status < 0 ? resume_behind(ctx, report_at(ctx, place, status, step_end_tag)) : 0;
 }
 
 // The group's decoder reads the element that was looked up once more, as its own.
@@ -88,10 +99,9 @@ int32_t decode_group(xb_context *ctx, const content_row &place)
     rtXmlpMarkLastEventActive(ctx);
     rtXmlpForceDecodeAsGroup(ctx);
     int32_t status = place.row.decode(ctx, at(place.record, place.row.offset));
-    if (status < 0)
-        return report_at(ctx, place, status, step_decode);
-    set_present(place.record, place.row);
-    return 0;
+    if (status >= 0 || is_armed(ctx))
+        set_present(place.record, place.row);
+    return status < 0 ? report_at(ctx, place, status, step_decode) : 0;
 }
 
 // Decodes one occurrence into *node: a record of its own, or for texts the text itself.
@@ -101,14 +111,30 @@ int32_t decode_node(xb_context *ctx, const content_row &place, void **node)
         const char *text = nullptr;
         int32_t status = decode_element(ctx, place.row, &text);
         *node = const_cast<char *>(text);
-        return status < 0 ? report_at(ctx, place, status, step_decode) : 0;
+        if (status < 0)
+            return report_at(ctx, place, status, step_decode);
+        note_value(ctx, place.row, text);
+        return 0;
     }
     *node = rtxMemHeapAlloc(ctx, place.row.node_size);
     if (*node == nullptr)
         return report_at(ctx, place, XB_E_NO_MEMORY, step_allocate);
     place.row.init(*node);
     int32_t status = decode_element(ctx, place.row, *node);
-    return status < 0 ? report_at(ctx, place, status, step_decode) : 0;
+    if (status < 0)
+        return report_at(ctx, place, status, step_decode);
+    note_value(ctx, place.row, *node);
+    return 0;
+}
+
+// The record of a failed occurrence is kept, for what is in it already.
+int32_t resume_occurrence(xb_context *ctx, const content_row &place, xb_data_list *list, void *node,
+                          int32_t status)
+{
+    explain_value(ctx, place.row.kind);
+    if (is_armed(ctx) && node != nullptr && keeps_partly(place.row))
+        rtxDListAppend(ctx, list, node);
+    return resume_behind(ctx, status);
 }
 
 int32_t decode_occurrence(xb_context *ctx, const content_row &place, xb_data_list *list)
@@ -116,10 +142,12 @@ int32_t decode_occurrence(xb_context *ctx, const content_row &place, xb_data_lis
     void *node = nullptr;
     int32_t status = decode_node(ctx, place, &node);
     if (status < 0)
-        return status;
+        return resume_occurrence(ctx, place, list, node, status);
     status = rtXmlpMatchEndTag(ctx, -1);
     if (status < 0)
-        return report_at(ctx, place, status, step_end_tag);
+        status = resume_behind(ctx, report_at(ctx, place, status, step_end_tag));
+    if (status < 0)
+        return status;
     if (rtxDListAppend(ctx, list, node) == nullptr)
         return report_at(ctx, place, XB_E_NO_MEMORY, step_append);
     return 0;
@@ -136,7 +164,9 @@ int32_t decode_run(xb_context *ctx, const content_row &place)
             return status;
         next = rtXmlpGetNextElemID(ctx, own_name, 1, -1);
         if (next < 0 && next != XB_E_RUN_ENDED)
-            return report_at(ctx, place, next, step_next);
+            next = next_in_run_armed(ctx, own_name, report_at(ctx, place, next, step_next));
+        if (next < 0 && next != XB_E_RUN_ENDED)
+            return next;
     }
     rtXmlpMarkLastEventActive(ctx);
     rtXmlpForceDecodeAsGroup(ctx);
@@ -154,11 +184,11 @@ int32_t decode_row(xb_context *ctx, const content_row &place)
 int32_t check_count(xb_context *ctx, const content_row &place)
 {
     const auto *list = reinterpret_cast<const xb_data_list *>(at(place.record, place.row.offset));
-    if (list->count > 0)
+    if (list->count > 0 || is_forgiven(ctx))
         return 0;
     rtxErrAddStrParm(ctx, place.row.counter);
     rtxErrAddIntParm(ctx, static_cast<int32_t>(list->count));
-    return report_at(ctx, place, XB_E_CONSTRAINT, step_count);
+    return resume_at_tag(ctx, report_at(ctx, place, XB_E_CONSTRAINT, step_count));
 }
 
 // A group that was never begun is decoded with nothing in it, so that its own counts are checked.
@@ -183,14 +213,18 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
 {
     const content_table &content = type.content;
     const bool group = rtXmlpIsDecodeAsGroup(ctx);
+    armed_content armed(ctx, type, group);
     int32_t position = 0;
-    while (position < content.count) {
-        position = rtXmlpDecPlainElements(ctx, content.elements, content.element_count, content.sequence,
-                                          content.plain, position, content.count, record);
-        if (position >= content.count)
+    while (position < content.count || armed.entered) {
+        if (!armed.entered)
+            position = rtXmlpDecPlainElements(ctx, content.elements, content.element_count, content.sequence,
+                                              content.plain, position, content.count, record);
+        if (position >= content.count && !armed.entered)
             break;
-        int32_t index = rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count, content.sequence,
-                                               position, content.last_required, group);
+        int32_t index =
+            armed.entered ? next_row_armed(ctx, armed.scope, position)
+                          : rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count,
+                                                   content.sequence, position, content.last_required, group);
         if (index < 0)
             return report(ctx, index, type.first_step + step_lookup);
         if (index == XB_END_OF_CONTENT)
@@ -207,6 +241,8 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
 
 int32_t decode_type(xb_context *ctx, const type_description &type, void *record)
 {
+    if (begin_type(ctx, type, record))
+        return 0;
     int32_t status = type.is_extension ? 0 : decode_tag(ctx, type, record);
     if (status < 0)
         return status;

@@ -2,6 +2,7 @@
 
 #include "decode/engine.h"
 #include "decode/name_links.h"
+#include "decode/recovery.h"
 #include "decode/values.h"
 
 namespace inv::decode
@@ -23,6 +24,7 @@ int32_t find_code(const enumeration &tokens, const char *text, int32_t length, u
             *code = found.code;
         return 0;
     }
+    note_failed_lookup(tokens);
     return XB_E_UNKNOWN_TOKEN;
 }
 
@@ -43,7 +45,11 @@ int32_t decode_enumeration(xb_context *ctx, uint32_t first_step, token_converter
     status = convert(text, static_cast<int32_t>(length), code);
     if (status < 0)
         rtxErrAddStrnParm(ctx, text, length);
-    return status < 0 ? report(ctx, status, first_step + 1) : 0;
+    if (status >= 0)
+        return 0;
+    report(ctx, status, first_step + 1);
+    explain_failed_token(ctx);
+    return status;
 }
 
 }  // namespace inv::decode

@@ -1,0 +1,65 @@
+// Files that the catalogue names and nobody can read.
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "catalogue_model.h"
+#include "nearest.h"
+#include "output.h"
+
+namespace
+{
+
+// 0 when the file can be read, else the system's error.
+int trouble_with(const std::string &file)
+{
+    struct stat status = {};
+    if (stat(file.c_str(), &status) != 0)
+        return errno;
+    if (S_ISDIR(status.st_mode))
+        return EISDIR;
+    return access(file.c_str(), R_OK) == 0 ? 0 : errno;
+}
+
+// Looking for what was meant reads a folder; a catalogue that names nothing right must not take forever.
+constexpr const char *plain_hint = "file names start at the catalogue's folder";
+constexpr size_t most_looked_for = 100;
+
+// The document in the same folder that may have been meant.
+std::string hint_for(const std::string &file)
+{
+    namespace fs = std::filesystem;
+    const fs::path path = file;
+    std::vector<std::string> names;
+    std::error_code trouble;
+    for (fs::directory_iterator at(path.has_parent_path() ? path.parent_path() : ".", trouble), end;
+         !trouble && at != end; at.increment(trouble))
+        if (at->path().extension() == ".xml")
+            names.push_back(at->path().filename().string());
+    std::sort(names.begin(), names.end());
+    const std::string meant = invctl::nearest_word(path.filename().string(), names);
+    return meant.empty() ? plain_hint : "did you mean " + invctl::printable(meant.c_str()) + "?";
+}
+
+}  // namespace
+
+namespace invctl::check
+{
+
+void check_catalogued_file_missing(const catalogue_check &catalogue, finding_list &found)
+{
+    size_t missing = 0;
+    for (const catalogued_unit &unit : units_of(catalogue)) {
+        if (unit.document != nullptr && unit.document->root != nullptr)
+            continue;
+        if (const int error = trouble_with(unit.file))
+            report_line(found, catalogue, *unit.line, unit.columns.file,
+                        printable(std::string(unit.columns.file).c_str()) + ": " + strerror(error))
+                .hint = ++missing <= most_looked_for ? hint_for(unit.file) : plain_hint;
+    }
+}
+
+}  // namespace invctl::check

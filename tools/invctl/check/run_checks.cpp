@@ -1,0 +1,191 @@
+#include "run_checks.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <sstream>
+#include <sys/stat.h>
+#include <unordered_set>
+
+#include "catalogue_model.h"
+#include "checks.h"
+#include "schema_findings.h"
+
+namespace
+{
+
+using namespace invctl::check;
+
+constexpr const char *standard_input = "-";
+
+bool read_stream(FILE *from, std::string *octets)
+{
+    char block[1 << 16];
+    for (size_t size = 1; size > 0;) {
+        size = fread(block, 1, sizeof block, from);
+        octets->append(block, size);
+    }
+    return ferror(from) == 0;
+}
+
+// False with errno set.
+bool read_octets(const std::string &file, std::string *octets)
+{
+    if (file == standard_input)
+        return read_stream(stdin, octets);
+    std::unique_ptr<FILE, int (*)(FILE *)> stream(fopen(file.c_str(), "rb"), fclose);
+    return stream != nullptr && read_stream(stream.get(), octets);
+}
+
+// What the system is to blame for is no finding.
+bool is_system_trouble(int32_t status)
+{
+    return status == XB_E_NO_MEMORY || status == XB_E_FILE_OPEN || status == XB_E_FILE_READ ||
+           status == XB_E_BAD_STATE;
+}
+
+// Null when the file cannot be read.
+std::unique_ptr<checked_document> read_document(const std::string &file, check_result &result)
+{
+    auto document = std::make_unique<checked_document>();
+    document->file = file;
+    if (!read_octets(file, &document->octets)) {
+        result.troubles.push_back(file + ": " + strerror(errno));
+        return nullptr;
+    }
+    decode_document(*document);
+    if (!is_system_trouble(document->status))
+        return document;
+    result.troubles.push_back(file + ": " + rtxErrText(document->status));
+    return nullptr;
+}
+
+// Entities that a schema finding is about: what else is found wrong with them may follow from it.
+std::unordered_set<const entity *> spoilt_entities(const finding_list &found)
+{
+    std::unordered_set<const entity *> spoilt;
+    for (const finding &each : found.all)
+        if (each.status != 0 && each.about != nullptr)
+            spoilt.insert(each.about);
+    return spoilt;
+}
+
+void run_all(checked_document &document, finding_list &found)
+{
+    report_schema_findings(document, found);
+    const std::unordered_set<const entity *> spoilt = spoilt_entities(found);
+    for (const check &each : all_checks()) {
+        if (each.needs_clean_schema && document.has_schema_findings)
+            continue;
+        found.current = &each.row;
+        each.run(document, found);
+    }
+    std::erase_if(found.all,
+                  [&](const finding &each) { return each.status == 0 && spoilt.contains(each.about); });
+    std::stable_sort(found.all.begin(), found.all.end(),
+                     [](const finding &a, const finding &b) { return a.where.offset < b.where.offset; });
+}
+
+// The document does not outlive its findings' use of it.
+void append(check_result &result, finding_list &found)
+{
+    for (finding &each : found.all) {
+        each.about = nullptr;
+        result.found.all.push_back(std::move(each));
+    }
+}
+
+void check_document(checked_document &document, check_result &result)
+{
+    finding_list found;
+    run_all(document, found);
+    result.files.push_back(document.file);
+    append(result, found);
+}
+
+std::vector<catalogue_line> lines_of(const std::string &text)
+{
+    std::vector<catalogue_line> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back({lines.size() + 1, line});
+    return lines;
+}
+
+// Reads the catalogued documents. Those that cannot be read are left to the checks.
+void read_documents(catalogue_check &catalogue, check_result &result)
+{
+    for (const catalogued_unit &unit : units_of(catalogue)) {
+        struct stat status = {};
+        if (catalogue.documents.contains(unit.file) || stat(unit.file.c_str(), &status) != 0 ||
+            !S_ISREG(status.st_mode))
+            continue;
+        if (auto document = read_document(unit.file, result))
+            catalogue.documents.emplace(unit.file, std::move(document));
+    }
+}
+
+}  // namespace
+
+namespace invctl::check
+{
+
+void check_file(const std::string &file, check_result &result)
+{
+    if (auto document = read_document(file, result))
+        check_document(*document, result);
+}
+
+void check_folder(const std::string &folder, check_result &result)
+{
+    std::vector<std::string> files;
+    std::error_code error;
+    for (const auto &entry : std::filesystem::directory_iterator(folder, error))
+        if (entry.path().extension() == ".xml")
+            files.push_back(entry.path().string());
+    if (error)
+        result.troubles.push_back(folder + ": " + error.message());
+    std::sort(files.begin(), files.end());
+    for (const std::string &file : files)
+        check_file(file, result);
+}
+
+void check_catalogue(const std::string &file, check_result &result)
+{
+    std::string text;
+    if (!read_octets(file, &text)) {
+        result.troubles.push_back(file + ": " + strerror(errno));
+        return;
+    }
+    catalogue_check catalogue;
+    catalogue.catalogue = file;
+    catalogue.folder = std::filesystem::path(file).parent_path().string();
+    catalogue.lines = lines_of(text);
+    read_documents(catalogue, result);
+    finding_list found;
+    for (const catalogue_check_row &each : all_catalogue_checks()) {
+        found.current = &each.row;
+        each.run(catalogue, found);
+    }
+    result.files.push_back(file);
+    append(result, found);
+    for (auto &[name, document] : catalogue.documents)
+        check_document(*document, result);
+}
+
+std::vector<const check_row *> all_rows()
+{
+    std::vector<const check_row *> rows;
+    for (const schema_row &each : schema_rows())
+        rows.push_back(&each.row);
+    for (const check &each : all_checks())
+        rows.push_back(&each.row);
+    for (const catalogue_check_row &each : all_catalogue_checks())
+        rows.push_back(&each.row);
+    return rows;
+}
+
+}  // namespace invctl::check
