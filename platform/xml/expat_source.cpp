@@ -527,7 +527,7 @@ bool create_expat_source(event_source &source, input &in, size_t chunk_size, con
     made->reader = reader;
     made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
     set_handlers(*made);
-    source = {next_event, destroy, nullptr, nullptr, nullptr, made};
+    source = {next_event, destroy, nullptr, nullptr, nullptr, nullptr, made};
     return true;
 }
 
