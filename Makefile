@@ -86,7 +86,7 @@ check-tsan: ## the locked entry points under the thread sanitizer
 
 check-fuzz: ## a minute of fuzzing, starting from the kept corpus
 	$(call packages,build check)
-	$(call build,fuzz,--target fuzz_document fuzz_open fuzz_catalogue)
+	$(call build,fuzz,--target fuzz_document fuzz_open fuzz_catalogue fuzz_roads)
 	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
 check-format: ## formatting of all sources

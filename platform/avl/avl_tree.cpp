@@ -52,22 +52,7 @@ links *find(avl_tree_header *header, const void *key_node, avl_compare compare)
     return nullptr;
 }
 
-// Where the node goes; false when an equal one is there. Documents number in ascending order: behind the
-// greatest node no search is needed.
-bool find_place(avl_tree_header *header, links *node, avl_compare compare,
-                algorithms::insert_commit_data &place)
-{
-    auto before = [compare](const void *a, const void *b) { return compare(a, b) == less; };
-    links *greatest = node_traits::get_right(&header->anchor);
-    if (header->count > 0 && before(greatest, node)) {
-        place.link_left = false;
-        place.node = greatest;
-        return true;
-    }
-    return algorithms::insert_unique_check(&header->anchor, node, before, place).second;
-}
-
-// Trees are emptied from their least node on: it needs no search either.
+// Trees are emptied from their least node on, which needs no search.
 links *find_to_delete(avl_root *root, const void *node, avl_compare compare)
 {
     if (root == nullptr || *root == nullptr || node == nullptr || compare == nullptr)
@@ -86,9 +71,10 @@ void *avl_insert(avl_root *root, void *node, avl_compare compare, uint32_t)
     avl_tree_header *header = fresh ? new_header() : *root;
     if (header == nullptr)
         return nullptr;
-    auto *inserted = static_cast<links *>(node);
+    auto before = [compare](const void *a, const void *b) { return compare(a, b) == less; };
     algorithms::insert_commit_data place;
-    if (!find_place(header, inserted, compare, place))
+    auto *inserted = static_cast<links *>(node);
+    if (!algorithms::insert_unique_check(&header->anchor, inserted, before, place).second)
         return nullptr;
     algorithms::insert_unique_commit(&header->anchor, inserted, place);
     ++header->count;

@@ -7,7 +7,7 @@
 namespace
 {
 
-constexpr size_t usual_chunk_size = 128 * 1024;
+constexpr size_t usual_chunk_size = size_t{128} * 1024;
 
 }  // namespace
 

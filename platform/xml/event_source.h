@@ -96,11 +96,12 @@ struct event_source {
     void (*destroy)(void *state) = nullptr;
     // Completes a position that is not older than the views; null when all positions are complete.
     void (*locate)(void *state, position &place) = nullptr;
-    // Lends the octets that come next within an element's content, up to *end and padded with
-    // window_padding octets of 0, and takes back where they were read to. Null where a source cannot.
-    const char *(*lend)(void *state, const char **end) = nullptr;  // null: not now
+    // Lends the octets that come next within an element's content, followed by window_padding octets
+    // of 0 at least, and takes back where they were read to. Null where a source cannot.
+    const char *(*lend)(void *state) = nullptr;  // null: not now
     void (*take_back)(void *state, const char *at) = nullptr;
-    void *state = nullptr;  // null: no source
+    position (*place_of)(void *state, const char *at) = nullptr;  // of one of these octets
+    void *state = nullptr;                                        // null: no source
 };
 
 // Completes a position that may have its offset only.

@@ -23,7 +23,7 @@ namespace inv::xml
 namespace
 {
 
-constexpr size_t queue_octets = 64 * 1024;
+constexpr size_t queue_octets = size_t{64} * 1024;
 constexpr size_t queue_events = 1024;
 // What one reference may expand to in the queue, which it has to fit into as a whole.
 constexpr size_t most_of_one_reference = size_t{1} << 20;
@@ -527,7 +527,7 @@ bool create_expat_source(event_source &source, input &in, size_t chunk_size, con
     made->reader = reader;
     made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
     set_handlers(*made);
-    source = {next_event, destroy, nullptr, nullptr, nullptr, made};
+    source = {next_event, destroy, nullptr, nullptr, nullptr, nullptr, made};
     return true;
 }
 

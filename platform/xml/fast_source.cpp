@@ -88,6 +88,7 @@ void end_with_end(fast_source &source, XML_Error error)
     if (is_in_data && view.end - at < character_data_opening) {
         is_in_data = false;
         error = XML_ERROR_UNCLOSED_TOKEN;
+        cut = nullptr;  // as expat counts octets there
     }
     if (is_in_data)
         at = cut != nullptr ? cut : last_piece(view, at + character_data_opening);
@@ -659,18 +660,22 @@ void locate_in_window(void *state, position &place)
         locate(source.lex.view, place);
 }
 
-const char *lend_content(void *state, const char **end)
+const char *lend_content(void *state)
 {
     fast_source &source = *static_cast<fast_source *>(state);
     if (source.where != part::content || source.end_is_due || source.other.state != nullptr)
         return nullptr;
-    *end = source.lex.view.end;
     return source.at;
 }
 
 void take_content_back(void *state, const char *at)
 {
     static_cast<fast_source *>(state)->at = at;
+}
+
+position place_of_content(void *state, const char *at)
+{
+    return {0, 0, offset_of(static_cast<fast_source *>(state)->lex.view, at)};
 }
 
 void destroy(void *state)
@@ -698,7 +703,7 @@ bool create_fast_source(event_source &source, input &in, size_t chunk_size, cons
     made->reader = reader;
     made->chunk_size = chunk_size;
     made->at = made->run = made->lex.view.octets;
-    source = {next_event, destroy, locate_in_window, lend_content, take_content_back, made};
+    source = {next_event, destroy, locate_in_window, lend_content, take_content_back, place_of_content, made};
     return true;
 }
 

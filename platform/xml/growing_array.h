@@ -53,6 +53,7 @@ inline bool append_text(growing_array<char> &array, std::string_view text)
     if (!make_room(array, text.size()))
         return false;
     if (!text.empty())
+        // NOLINTNEXTLINE(clang-analyzer-core.NonNullParamChecker): there is room, so there are items
         memcpy(array.items + array.count, text.data(), text.size());
     array.count += text.size();
     return true;

@@ -12,21 +12,23 @@
 namespace inv::xml
 {
 
-struct alignas(16) heap_chunk {
-    heap_chunk *older;
-    size_t capacity;
-    size_t used;
-};
-
 namespace
 {
 
-constexpr size_t alignment = 16;
+constexpr size_t greatest_alignment = 16;
 constexpr size_t first_chunk_size = 4096;
 constexpr size_t greatest_chunk_size = size_t{4} << 20;
+// Chunks double up to this size; whoever needs more than those gets the greatest, which take far fewer
+// page faults (system_memory.h).
+constexpr size_t last_doubled_chunk = size_t{512} << 10;
 
 // From here on chunks are whole pages of the system's.
 constexpr size_t least_mapped_chunk = size_t{128} << 10;
+
+constexpr size_t aligned(size_t size, size_t alignment)
+{
+    return (size + alignment - 1) & ~(alignment - 1);
+}
 
 char *octets_of(heap_chunk *chunk)
 {
@@ -79,7 +81,7 @@ bool add_chunk(heap &from)
     if (chunk == nullptr)
         return false;
     push(from.newest, chunk);
-    from.next_chunk_size = std::min(size * 2, greatest_chunk_size);
+    from.next_chunk_size = size < last_doubled_chunk ? size * 2 : greatest_chunk_size;
     return true;
 }
 
@@ -94,11 +96,15 @@ void release_chunks(heap_chunk *&list)
 
 }  // namespace
 
-void *heap_allocate(heap &from, size_t size)
+namespace
 {
-    if (size > static_cast<size_t>(PTRDIFF_MAX) - sizeof(heap_chunk) - alignment)
+
+// `alignment` is a power of two, the heap's own at most.
+void *allocate(heap &from, size_t size, size_t alignment)
+{
+    if (size > static_cast<size_t>(PTRDIFF_MAX) - sizeof(heap_chunk) - greatest_alignment)
         return nullptr;
-    size = (std::max(size, size_t{1}) + alignment - 1) & ~(alignment - 1);
+    size = std::max(size, size_t{1});
     // A quarter of a chunk at most is lost when a request does not fit its rest.
     if (size > std::max(from.next_chunk_size, first_chunk_size) / 4) {
         void *own = allocate_own_chunk(from, size);
@@ -106,24 +112,45 @@ void *heap_allocate(heap &from, size_t size)
             from.last = own;
         return own;
     }
-    if (from.newest == nullptr || size > from.newest->capacity - from.newest->used) {
+    size_t start = from.newest == nullptr ? 0 : aligned(from.newest->used, alignment);
+    if (from.newest == nullptr || start > from.newest->capacity || size > from.newest->capacity - start) {
         if (!add_chunk(from))
             return nullptr;
+        start = 0;
     }
-    from.last = octets_of(from.newest) + from.newest->used;
-    from.newest->used += size;
+    from.last = octets_of(from.newest) + start;
+    from.newest->used = start + size;
     return from.last;
+}
+
+}  // namespace
+
+void *heap_allocate(heap &from, size_t size)
+{
+    return allocate(from, size, greatest_alignment);
 }
 
 char *heap_copy_text(heap &from, std::string_view text)
 {
-    char *copy = static_cast<char *>(heap_allocate(from, text.size() + 1));
+    char *copy = static_cast<char *>(allocate(from, text.size() + 1, 1));
     if (copy == nullptr)
         return nullptr;
     if (!text.empty())
         memcpy(copy, text.data(), text.size());
     copy[text.size()] = '\0';
     return copy;
+}
+
+xb_data_node *heap_append(heap &from, xb_data_list &list, void *data)
+{
+    void *block = allocate(from, sizeof(xb_data_node), alignof(xb_data_node));
+    if (block == nullptr)
+        return nullptr;
+    xb_data_node *node = new (block) xb_data_node{data, nullptr, list.tail};
+    (list.tail != nullptr ? list.tail->next : list.head) = node;
+    list.tail = node;
+    ++list.count;
+    return node;
 }
 
 void heap_take_back(heap &from, void *ptr)
@@ -163,12 +190,5 @@ void rtxMemHeapFreePtr(xb_context *ctx, void *ptr)
 
 xb_data_node *rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data)
 {
-    void *block = heap_allocate(ctx->state->memory, sizeof(xb_data_node));
-    if (block == nullptr)
-        return nullptr;
-    xb_data_node *node = new (block) xb_data_node{data, nullptr, list->tail};
-    (list->tail != nullptr ? list->tail->next : list->head) = node;
-    list->tail = node;
-    ++list->count;
-    return node;
+    return heap_append(ctx->state->memory, *list, data);
 }

@@ -2,13 +2,20 @@
 #ifndef PLATFORM_XML_HEAP_H
 #define PLATFORM_XML_HEAP_H
 
+#include "inv_platform/xml_runtime.h"
+
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace inv::xml
 {
 
-struct heap_chunk;
+struct alignas(16) heap_chunk {
+    heap_chunk *older;
+    size_t capacity;
+    size_t used;
+};
 
 struct heap {
     heap_chunk *newest = nullptr;      // chunk that small requests are cut from
@@ -20,8 +27,29 @@ struct heap {
 // Aligned to 16, content undefined; null when memory is out.
 void *heap_allocate(heap &from, size_t size);
 
-// A NUL-terminated copy of text, or null.
+// A NUL-terminated copy of text, or null. Texts lie closely packed.
 char *heap_copy_text(heap &from, std::string_view text);
+
+constexpr size_t heap_text_padding = 16;
+
+// The same for a text behind which heap_text_padding octets may be looked at: copied in whole pieces of
+// so many where there is room, since most texts are short.
+inline char *heap_copy_padded_text(heap &from, std::string_view text)
+{
+    heap_chunk *chunk = from.newest;
+    if (chunk == nullptr || text.size() + heap_text_padding > chunk->capacity - chunk->used)
+        return heap_copy_text(from, text);
+    char *copy = reinterpret_cast<char *>(chunk + 1) + chunk->used;
+    for (size_t i = 0; i < text.size(); i += heap_text_padding)
+        memcpy(copy + i, text.data() + i, heap_text_padding);
+    copy[text.size()] = '\0';
+    chunk->used += text.size() + 1;
+    from.last = copy;
+    return copy;
+}
+
+// Appends a node to a list; null when memory is out.
+xb_data_node *heap_append(heap &from, xb_data_list &list, void *data);
 
 // Takes the newest allocation back; any other pointer is left alone.
 void heap_take_back(heap &from, void *ptr);

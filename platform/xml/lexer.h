@@ -8,6 +8,7 @@
 
 #include "characters.h"
 #include "event_source.h"
+#include "known_names.h"
 #include "scan.h"
 #include "window.h"
 
@@ -26,6 +27,7 @@ struct lexer_fault {
 struct lexer {
     window view;
     lexer_fault fault;
+    known_names names = {};
 };
 
 lexed fail_at(lexer &lex, const char *at, XML_Error error = XML_ERROR_INVALID_TOKEN);

@@ -3,8 +3,8 @@
 #define PLATFORM_XML_NAME_LOOKUP_H
 
 #include "inv_platform/xml_runtime.h"
+#include "octets.h"
 
-#include <cstring>
 #include <string_view>
 
 namespace inv::xml
@@ -13,7 +13,7 @@ namespace inv::xml
 template <typename Row>
 inline bool has_name(const Row &row, std::string_view name)
 {
-    return row.name_length == name.size() && memcmp(row.name, name.data(), name.size()) == 0;
+    return row.name_length == name.size() && same_octets(row.name, name.data(), name.size());
 }
 
 // The first row of this name that is allowed, or -1.

@@ -16,6 +16,18 @@ enum class leaf_state : uint8_t {
     open    // it was taken: the end tag is what comes next
 };
 
+// The row of an element table that a name was found in at a position of the content, for the short ways:
+// tables stay as they are while they are in use, so that the same name is found there again.
+struct row_guess {
+    const xb_element_row *rows;
+    const xb_sequence_row *sequence;
+    int32_t row_count;
+    int32_t position;
+    int32_t row;  // -1: none yet
+};
+
+constexpr size_t guess_count = 256;
+
 struct reader {
     event_source source;
     tag_stack tags;
@@ -50,6 +62,7 @@ struct reader {
     position place;   // where the next error belongs
     size_t selected;  // attribute of the current tag, counted from its first; or no_attribute
     bool group_mode;
+    row_guess guesses[guess_count];
 };
 
 // Gives back what the reader holds.

@@ -57,6 +57,12 @@ inline octet_marks beyond_ascii(const octet_block &block)
     return block.octets;
 }
 
+// Control octets and those beyond ASCII: as signed numbers they all lie below the blank.
+inline octet_marks not_printable(const octet_block &block)
+{
+    return _mm_cmplt_epi8(block.octets, splat(0x20));
+}
+
 inline octet_marks either(octet_marks a, octet_marks b)
 {
     return _mm_or_si128(a, b);
@@ -124,6 +130,11 @@ inline octet_marks within_letters(const octet_block &block)
 inline octet_marks beyond_ascii(const octet_block &block)
 {
     return block.octets & top_bits;
+}
+
+inline octet_marks not_printable(const octet_block &block)
+{
+    return not_above(block.octets, 0x1F) | beyond_ascii(block);
 }
 
 inline octet_marks either(octet_marks a, octet_marks b)
@@ -201,8 +212,7 @@ inline const char *skip_value(const char *at, char quote)
 {
     return scan_to(at, [quote](const octet_block &block) {
         octet_marks markup = either(equal_to(block, '<'), equal_to(block, '&'));
-        octet_marks odd = either(within(block, 0, 0x1F), beyond_ascii(block));
-        return either(either(equal_to(block, quote), markup), odd);
+        return either(either(equal_to(block, quote), markup), not_printable(block));
     });
 }
 
@@ -211,17 +221,15 @@ inline const char *skip_text(const char *at)
 {
     return scan_to(at, [](const octet_block &block) {
         octet_marks markup = either(equal_to(block, '<'), equal_to(block, '&'));
-        octet_marks odd = either(within(block, 0, 0x1F), beyond_ascii(block));
-        return either(either(equal_to(block, ']'), markup), odd);
+        return either(either(equal_to(block, ']'), markup), not_printable(block));
     });
 }
 
 // Within a comment, a processing instruction or a CDATA section: to `mark` or what has to be looked at.
 inline const char *skip_to_mark(const char *at, char mark)
 {
-    return scan_to(at, [mark](const octet_block &block) {
-        return either(either(equal_to(block, mark), within(block, 0, 0x1F)), beyond_ascii(block));
-    });
+    return scan_to(
+        at, [mark](const octet_block &block) { return either(equal_to(block, mark), not_printable(block)); });
 }
 
 uint64_t count_octets(const char *from, const char *to, char wanted);

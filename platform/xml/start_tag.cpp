@@ -22,7 +22,7 @@ struct tag_traits {
     bool has_declarations = false;
     bool has_rewrites = false;  // attributes with made_value
     bool may_repeat = false;    // two names may be the same
-    uint64_t seen = 0;          // one bit for each name, by its hash
+    uint64_t seen = 0;          // bits of known names
 };
 
 constexpr size_t few_attributes = 64;
@@ -59,13 +59,15 @@ lexed lex_odd_value(lexer &lex, const char *&at, char quote, bool &needs_rewrite
     return lexed::ok;
 }
 
-lexed lex_attribute(lexer &lex, const char *&at, const char *tag, attribute &item, tag_traits &traits)
+void note_name(tag_traits &traits, const known_name &name)
 {
-    const char *name = at;
-    lexed result = lex_name(lex, at, traits.has_colons);
-    if (result != lexed::ok)
-        return result;
-    auto length = static_cast<size_t>(at - name);
+    traits.may_repeat = traits.may_repeat || (traits.seen & name.bit) != 0;
+    traits.seen |= name.bit;
+}
+
+// What follows the name.
+lexed lex_value(lexer &lex, const char *&at, attribute &item)
+{
     at = skip_space(at);
     if (*at != '=')
         return unexpected(lex, at);
@@ -73,28 +75,78 @@ lexed lex_attribute(lexer &lex, const char *&at, const char *tag, attribute &ite
     const char quote = *at;
     if (quote != '"' && quote != '\'')
         return unexpected(lex, at);
-    const char *value = ++at;
+    item.value = ++at;
+    item.made_value = false;
     at = skip_value(at, quote);
-    bool needs_rewrite = false;
     if (*at != quote) {
-        result = lex_odd_value(lex, at, quote, needs_rewrite);
+        lexed result = lex_odd_value(lex, at, quote, item.made_value);
         if (result != lexed::ok)
             return result;
     }
-    item.name = name;
-    item.value = value;
+    item.value_length = static_cast<uint32_t>(at - item.value);
+    ++at;
+    return lexed::ok;
+}
+
+// Moves *last to the name's known form, if it has one.
+lexed lex_attribute(lexer &lex, const char *&at, attribute &item, tag_traits &traits, known_name *&last)
+{
+    item.name = at;
+    bool has_colon = false;
+    lexed result = lex_name(lex, at, has_colon);
+    if (result != lexed::ok)
+        return result;
+    const auto length = static_cast<size_t>(at - item.name);
     item.name_length = static_cast<uint32_t>(length);
-    item.value_length = static_cast<uint32_t>(at - value);
-    item.name_hash = name_hash(name, length);
-    item.markup_at = static_cast<uint32_t>(name - tag);
-    item.made_value = needs_rewrite;
-    item.kind = name_kind::plain;
-    traits.has_rewrites = traits.has_rewrites || needs_rewrite;
-    traits.has_declarations =
-        traits.has_declarations || (length >= 5 && *name == 'x' && memcmp(name, "xmlns", 5) == 0);
-    uint64_t bit = uint64_t{1} << (item.name_hash >> 26);
-    traits.may_repeat = traits.may_repeat || (traits.seen & bit) != 0;
-    traits.seen |= bit;
+    item.name_hash = name_hash(item.name, length);
+    result = lex_value(lex, at, item);
+    if (result != lexed::ok)
+        return result;
+    const bool is_declaration = length >= 5 && *item.name == 'x' && memcmp(item.name, "xmlns", 5) == 0;
+    traits.has_colons = traits.has_colons || has_colon;
+    traits.has_rewrites = traits.has_rewrites || item.made_value;
+    traits.has_declarations = traits.has_declarations || is_declaration;
+    known_name *known =
+        has_colon || is_declaration ? nullptr : know_name(lex.names, name_of(item), item.name_hash);
+    traits.may_repeat = traits.may_repeat || known == nullptr;
+    if (known != nullptr) {
+        note_name(traits, *known);
+        last = last->next = known;
+    }
+    return lexed::ok;
+}
+
+// The usual form of an attribute whose name is expected: one blank, the name, a plain value in double
+// quotes. False: it is not that, and is read by lex_attribute().
+bool lex_expected_attribute(const char *&at, attribute &item, tag_traits &traits, known_name *&last)
+{
+    known_name *expected = last->next;
+    if (expected == nullptr || at[0] != ' ' || !begins_with(at + 1, *expected))
+        return false;
+    const char *behind = at + 1 + expected->length;
+    if (behind[0] != '=' || behind[1] != '"')
+        return false;
+    const char *value = behind + 2;
+    const char *end = skip_value(value, '"');
+    if (*end != '"')
+        return false;
+    item.name = at + 1;
+    item.value = value;
+    item.name_length = expected->length;
+    item.value_length = static_cast<uint32_t>(end - value);
+    item.name_hash = expected->hash;
+    item.made_value = false;
+    note_name(traits, *expected);
+    last = expected;
+    at = end + 1;
+    return true;
+}
+
+lexed lex_end_of_tag(lexer &lex, const char *&at, bool &is_empty)
+{
+    is_empty = *at == '/';
+    if (is_empty && *++at != '>')
+        return unexpected(lex, at);
     ++at;
     return lexed::ok;
 }
@@ -103,27 +155,24 @@ lexed lex_attribute(lexer &lex, const char *&at, const char *tag, attribute &ite
 lexed lex_attributes(lexer &lex, const char *&at, const char *tag, growing_array<attribute> &attributes,
                      tag_traits &traits, bool &is_empty)
 {
+    known_name *last = &lex.names.start;
     for (;;) {
-        const char *before = at;
-        at = skip_space(at);
-        if (*at == '>') {
-            ++at;
-            return lexed::ok;
-        }
-        if (*at == '/') {
-            is_empty = true;
-            if (at[1] != '>')
-                return unexpected(lex, at + 1);
-            at += 2;
-            return lexed::ok;
-        }
-        if (at == before)
-            return unexpected(lex, at);
         if (!make_room(attributes, 1))
             return lexed::no_memory;
-        lexed result = lex_attribute(lex, at, tag, attributes.items[attributes.count], traits);
-        if (result != lexed::ok)
-            return result;
+        attribute &item = attributes.items[attributes.count];
+        if (!lex_expected_attribute(at, item, traits, last)) {
+            const char *before = at;
+            at = skip_space(at);
+            if (*at == '>' || *at == '/')
+                return lex_end_of_tag(lex, at, is_empty);
+            if (at == before)
+                return unexpected(lex, at);
+            lexed result = lex_attribute(lex, at, item, traits, last);
+            if (result != lexed::ok)
+                return result;
+        }
+        item.markup_at = static_cast<uint32_t>(item.name - tag);
+        item.kind = name_kind::plain;
         ++attributes.count;
     }
 }

@@ -5,6 +5,7 @@
 #include "characters.h"
 #include "inv_platform/xml_runtime.h"
 
+#include <array>
 #include <charconv>
 #include <limits>
 #include <type_traits>
@@ -51,6 +52,37 @@ inline int32_t parse_boolean(std::string_view text, uint8_t &value)
         return XB_E_BAD_BOOLEAN;
     value = is_true ? 1 : 0;
     return XB_OK;
+}
+
+inline constexpr std::array<int8_t, 256> hex_digits = [] {
+    std::array<int8_t, 256> table = {};
+    table.fill(-1);
+    for (int8_t i = 0; i < 10; ++i)
+        table[static_cast<size_t>('0' + i)] = i;
+    for (int8_t i = 0; i < 6; ++i)
+        table[static_cast<size_t>('a' + i)] = table[static_cast<size_t>('A' + i)] =
+            static_cast<int8_t>(10 + i);
+    return table;
+}();
+
+inline int hex_digit(char c)
+{
+    return hex_digits[static_cast<unsigned char>(c)];
+}
+
+inline bool is_hexadecimal(std::string_view text)
+{
+    for (char c : text) {
+        if (hex_digit(c) < 0)
+            return false;
+    }
+    return text.size() % 2 == 0;
+}
+
+inline void convert_hexadecimal(std::string_view text, uint8_t *octets)
+{
+    for (size_t i = 0; i < text.size(); i += 2)
+        octets[i / 2] = static_cast<uint8_t>(hex_digit(text[i]) << 4 | hex_digit(text[i + 1]));
 }
 
 }  // namespace inv::xml

@@ -4,7 +4,6 @@
 #include "reading.h"
 #include "value_parsers.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -80,37 +79,6 @@ int32_t decode(xb_context *ctx, Value *value, int32_t (*parse)(std::string_view,
     if (status != XB_OK)
         add_parameter(*ctx->state, text);
     return status;
-}
-
-constexpr std::array<int8_t, 256> hex_digits = [] {
-    std::array<int8_t, 256> table = {};
-    table.fill(-1);
-    for (int8_t i = 0; i < 10; ++i)
-        table[static_cast<size_t>('0' + i)] = i;
-    for (int8_t i = 0; i < 6; ++i)
-        table[static_cast<size_t>('a' + i)] = table[static_cast<size_t>('A' + i)] =
-            static_cast<int8_t>(10 + i);
-    return table;
-}();
-
-int hex_digit(char c)
-{
-    return hex_digits[static_cast<unsigned char>(c)];
-}
-
-bool is_hexadecimal(std::string_view text)
-{
-    for (char c : text) {
-        if (hex_digit(c) < 0)
-            return false;
-    }
-    return text.size() % 2 == 0;
-}
-
-void convert_hexadecimal(std::string_view text, uint8_t *octets)
-{
-    for (size_t i = 0; i < text.size(); i += 2)
-        octets[i / 2] = static_cast<uint8_t>(hex_digit(text[i]) << 4 | hex_digit(text[i + 1]));
 }
 
 // Takes the value and checks it; the octets are converted by the caller, who knows their home.

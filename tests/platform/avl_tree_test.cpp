@@ -175,6 +175,54 @@ void step(avl_root *root, std::map<uint32_t, std::unique_ptr<node>> &model, uint
     ASSERT_EQ(*root == nullptr, model.empty());
 }
 
+// Emptying from the least node on is cut short at any point, and the tree goes on as if it had not begun.
+TEST(AvlTree, goes_on_as_an_ordered_map_after_any_number_of_its_least_nodes_was_deleted)
+{
+    for (uint32_t size : {1u, 2u, 15u, 16u, 17u, 100u, 1000u}) {
+        std::mt19937 random(size);
+        for (uint32_t taken = 0; taken <= size; taken += 1 + size / 20) {
+            SCOPED_TRACE(std::to_string(taken) + " of " + std::to_string(size));
+            std::map<uint32_t, std::unique_ptr<node>> model;
+            avl_root root = nullptr;
+            for (uint32_t i = 0; i < size; ++i)
+                ASSERT_NO_FATAL_FAILURE(step(&root, model, 0, 2 * i));
+            for (uint32_t i = 0; i < taken; ++i)
+                ASSERT_NO_FATAL_FAILURE(step(&root, model, 2, 2 * i));
+            for (const auto &[key, expected] : model)
+                ASSERT_EQ(search(&root, key), expected.get());
+            for (uint32_t i = 0; i < 200; ++i)
+                ASSERT_NO_FATAL_FAILURE(step(&root, model, static_cast<uint32_t>(random() % 3),
+                                             static_cast<uint32_t>(random() % (2 * size))));
+            while (!model.empty())
+                ASSERT_NO_FATAL_FAILURE(step(&root, model, 2, model.begin()->first));
+            EXPECT_EQ(root, nullptr);
+        }
+    }
+}
+
+TEST(AvlTree, searches_stay_logarithmic_when_a_tree_that_was_nearly_emptied_grows_again)
+{
+    constexpr uint32_t count = 1u << 14;
+    std::vector<node> nodes(2 * count);
+    for (uint32_t i = 0; i < 2 * count; ++i)
+        nodes[i] = make_node(i);
+    avl_root root = nullptr;
+    for (uint32_t i = 0; i < count; ++i)
+        ASSERT_EQ(avl_insert(&root, &nodes[i], compare_keys, 0), &nodes[i]);
+    uint32_t kept = count - count / 8;
+    for (uint32_t i = 0; i < kept; ++i)
+        ASSERT_EQ(avl_delete(&root, &nodes[i], compare_keys, 0), &nodes[i]);
+    for (uint32_t i = count; i < 2 * count; ++i)
+        ASSERT_EQ(avl_insert(&root, &nodes[i], compare_keys, 0), &nodes[i]);
+    for (uint32_t i = kept; i < 2 * count; ++i) {
+        comparisons = 0;
+        ASSERT_EQ(search(&root, i), &nodes[i]);
+        ASSERT_LE(comparisons, 21u) << "1.44 x log2(count) is the bound";
+    }
+    while (void *first = avl_get_first(&root))
+        ASSERT_EQ(avl_delete(&root, first, compare_keys, 0), first);
+}
+
 TEST(AvlTree, behaves_as_an_ordered_map_under_random_operations)
 {
     uint64_t live = counting_memory::live();

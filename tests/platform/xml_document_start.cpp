@@ -86,7 +86,7 @@ TEST(XmlDocumentStart, any_other_one_is_left_to_the_other_road)
 TEST(XmlDocumentStart, nothing_is_decided_before_a_declaration_has_its_room)
 {
     const std::string text = "<?xml version='1.0'?>" + std::string(600, ' ') + "<a/>";
-    for (size_t length : {1, 4, 30, 511}) {
+    for (size_t length : {1U, 4U, 30U, 511U}) {
         lexing part(std::string_view(text).substr(0, length), false);
         EXPECT_EQ(lex_document_start(part.lex, part.at), lexed::need_more) << length;
     }

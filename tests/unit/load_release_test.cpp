@@ -1,8 +1,10 @@
 // The release functions on what belongs to an open file: they walk it and change not one octet of it.
 #include "load_world.h"
 
+#include "OrvelianInventorySchema.h"
 #include "frame/side_records.h"
 #include "inv_parser/loaders.h"
+#include "inv_parser/record_builders.h"
 #include "inv_parser/release.h"
 #include "inv_parser/tree_internal.h"
 #include "support/counting_memory.h"
@@ -129,6 +131,50 @@ TEST(Release, at_the_close_reaches_a_node_that_a_client_hung_into_the_files_tree
     EXPECT_EQ(entity_count(handle), module_document().entities + 1);
     inv_parser_close_xml_file(handle);
     EXPECT_EQ(library.live(), 0u);
+}
+
+// The close walks no records when none can be the heap's; what is looked at here is that it notices.
+TEST(Release, at_the_close_reaches_a_record_that_a_client_built_into_a_files_list)
+{
+    fresh_library library;
+    inv_xml_handle *first = open_document(module_document());
+    ASSERT_NE(first, nullptr);
+    uint64_t live = library.live();
+    const std::string text = "mine";
+    BaseLEDType decoded;
+    Init_BaseLEDType(&decoded);
+    decoded.base.name = text.c_str();
+    xb_data_node element = {};
+    element.data = &decoded;
+    xb_data_list list = {};
+    list.count = 1;
+    list.head = list.tail = &element;
+    root_eid = first->root;
+    parser_retrieve_base_led_data_list(&module_data->led_list, &list, &module_data->base);
+    // The record and its node in the tree.
+    EXPECT_EQ(library.live(), live + 2);
+    EXPECT_EQ(entity_count(first), module_document().entities + 1);
+    inv_parser_close_xml_file(first);
+    EXPECT_EQ(library.live(), 0u);
+}
+
+// Two files, one of them with a client's node: each goes as a whole, whichever is closed first.
+TEST(Release, of_one_file_does_not_depend_on_what_hangs_in_another)
+{
+    for (bool is_hung_in_first : {false, true}) {
+        fresh_library library;
+        inv_xml_handle *first = open_document(module_document());
+        inv_xml_handle *second = open_document(chassis_document());
+        ASSERT_NE(first, nullptr);
+        ASSERT_NE(second, nullptr);
+        sch_base_entity_type mine = {};
+        root_eid = is_hung_in_first ? first->root : second->root;
+        parser_update_eid_chain(&mine, root_eid->record);
+        inv_parser_close_xml_file(first);
+        EXPECT_EQ(entity_count(second), chassis_document().entities + (is_hung_in_first ? 0 : 1));
+        inv_parser_close_xml_file(second);
+        EXPECT_EQ(library.live(), 0u);
+    }
 }
 
 }  // namespace

@@ -38,6 +38,7 @@ int finish_output(int code)
         remember_error();
     if (first_error == 0)
         return code;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the command has one thread
     fprintf(stderr, "invctl: cannot write standard output: %s\n", strerror(first_error));
     return exit_trouble;
 }

@@ -175,6 +175,7 @@ struct member {
 template <class Type>
 constexpr record_field described(member<Type> at, field_kind kind, uint32_t presence)
 {
+    // NOLINTNEXTLINE(bugprone-sizeof-expression): the size of a pointer, where the field is one
     record_field field = {at.name, kind, static_cast<uint32_t>(at.offset), sizeof(Type)};
     field.presence = presence;
     return field;

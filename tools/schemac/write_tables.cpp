@@ -78,6 +78,8 @@ std::string item_row(const home &h, const item &i)
     fields.insert(fields.end(), of_list.begin(), of_list.end());
     if (i.kind == value_kind::enumeration && !is_list(i))
         fields.push_back(".tokens = &tokens::" + i.type);
+    if (i.kind == value_kind::octet_buffer && !is_list(i))
+        fields.push_back(".capacity = sizeof " + i.type + "::octets");
     return table_row(fields);
 }
 

@@ -123,8 +123,11 @@ enum xb_plain_kind {
     XB_PLAIN_UINT32,
     XB_PLAIN_INT64,
     XB_PLAIN_BOOLEAN,
-    XB_PLAIN_TEXT, /* const char *, as rtXmlpDecXmlStr() */
-    XB_PLAIN_TOKEN /* uint32_t code of a token */
+    XB_PLAIN_TEXT,     /* const char *, as rtXmlpDecXmlStr() */
+    XB_PLAIN_TOKEN,    /* uint32_t code of a token */
+    XB_PLAIN_OCTETS,   /* xb_octets, as rtXmlpDecDynHexStr() */
+    XB_PLAIN_BUFFER,   /* uint32_t count and `capacity` octets behind it, all of which are given */
+    XB_PLAIN_TEXT_LIST /* of repeated elements: xb_data_list of const char * */
 };
 
 /* Where a plain value goes; row n belongs to content index n, or to attribute n. */
@@ -134,6 +137,7 @@ typedef struct xb_plain_row {
     uint32_t present_offset; /* of the octet with its presence bit in the record */
     uint8_t present_mask;    /* that bit; 0: it has none */
     uint8_t kind;            /* xb_plain_kind */
+    uint16_t capacity;       /* of XB_PLAIN_BUFFER, else 0 */
 } xb_plain_row;
 
 /* A namespace declaration as rtXmlpGetXmlnsAttrs() lists it; both texts in the context's heap. */
@@ -335,8 +339,15 @@ int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int
                                const xb_sequence_row *sequence, const xb_plain_row *plain, int32_t position,
                                int32_t position_count, void *record);
 
-/* The same for the current tag's attributes from `index` on (document order). Returns the index of
- * the first attribute that was not decoded, the number of attributes when all were. Bit n of *seen
+/* What comes next in the current element, without reading it: the content index of an element that is
+ * plain as above, whatever its text, and may stand at the position; XB_END_OF_CONTENT for a plain
+ * element that may not; XB_E_BAD_STATE when something else comes or the reader cannot tell. Never
+ * records anything. */
+int32_t rtXmlpSeePlainElement(xb_context *ctx, const xb_element_row *table, int32_t row_count,
+                              const xb_sequence_row *sequence, int32_t position);
+
+/* rtXmlpDecPlainElements() for the current tag's attributes from `index` on (document order). Returns the
+ * index of the first attribute that was not decoded, the number of attributes when all were. Bit n of *seen
  * is set for attribute n of the table. */
 int32_t rtXmlpDecPlainAttributes(xb_context *ctx, const xb_attribute_row *table, int32_t row_count,
                                  const xb_plain_row *plain, int32_t index, void *record, uint64_t *seen);

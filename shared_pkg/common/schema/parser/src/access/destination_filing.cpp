@@ -11,13 +11,10 @@ namespace
 {
 
 struct i2c_filing {
+    static constexpr bus over = bus::i2c;
     using index_no_memory = msg::i2c_dest_index_no_memory;
     using insert_failed = msg::i2c_dest_avl_insert_failed;
     using slot_no_memory = msg::i2c_dest_slot_no_memory;
-    static avl_root *index(inv_xml_handle *file)
-    {
-        return &file->i2c_xml_inst_index;
-    }
     static sch_cc_slot_xml_inst_type **slot_lists(inv_xml_handle *file)
     {
         return file->i2c_cc_slot_lists;
@@ -26,13 +23,10 @@ struct i2c_filing {
 };
 
 struct pcie_filing {
+    static constexpr bus over = bus::pcie;
     using index_no_memory = msg::pcie_dest_index_no_memory;
     using insert_failed = msg::pcie_dest_avl_insert_failed;
     using slot_no_memory = msg::pcie_dest_slot_no_memory;
-    static avl_root *index(inv_xml_handle *file)
-    {
-        return &file->pcie_xml_inst_index;
-    }
     static sch_cc_slot_xml_inst_type **slot_lists(inv_xml_handle *file)
     {
         return file->pcie_cc_slot_lists;
@@ -79,7 +73,7 @@ template <class Filing>
 uint32_t file_in_index(inv_xml_handle *file, const destination &found)
 {
     auto *node = obtain_index_node<typename Filing::index_no_memory, typename Filing::insert_failed>(
-        Filing::index(file), found.node_position);
+        index_of(file, Filing::over), found.node_position);
     if (node == nullptr)
         return 1;
     node->channel = found.channel;

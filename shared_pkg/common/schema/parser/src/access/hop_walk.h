@@ -15,7 +15,7 @@ namespace inv
 {
 
 // A Family names what differs: sequence, hop and pair (the public types), max_hops, the messages,
-// index(), slot_lists(), describe() for a hop, move_up() for the shift and trim() for the last hop.
+// over (the bus), slot_lists(), describe() for a hop, move_up() for the shift and trim() for the last hop.
 
 // One hop as the index has it. Channel and device id are those of the port that leads here.
 struct found_hop {
@@ -48,7 +48,7 @@ typename Family::sequence *request_sequence(size_t hop_count)
 // Climbs from the target to the topmost entity. False: no chain, or one of more hops than fit, as
 // every loop of parents has.
 template <class Family>
-bool collect_hops(avl_root *index, uint16_t instance, hop_chain<Family::max_hops> *chain)
+bool collect_hops(const xml_instance_index &index, uint16_t instance, hop_chain<Family::max_hops> *chain)
 {
     const sch_xml_inst_node_type *node = find_index_node(index, instance);
     if (node == nullptr) {
@@ -114,7 +114,7 @@ uint32_t build_sequence(inv_xml_handle *handle, int32_t xml_instance, typename F
         return 1;
     }
     hop_chain<Family::max_hops> chain = {};
-    if (!collect_hops<Family>(Family::index(handle), instance, &chain))
+    if (!collect_hops<Family>(index_of(handle, Family::over), instance, &chain))
         return 1;
     auto *sequence = request_sequence<Family>(chain.count);
     if (sequence == nullptr) {

@@ -11,6 +11,7 @@ struct i2c_family {
     using sequence = sch_i2c_access_seq_type;
     using hop = sch_i2c_access_hop_type;
     using pair = sch_i2c_access_seq_pair_type;
+    static constexpr bus over = bus::i2c;
     static constexpr size_t max_hops = INV_I2C_MAX_HOPS;
 
     using null_handle = msg::i2c_null_handle;
@@ -21,10 +22,6 @@ struct i2c_family {
     using instance_too_large = msg::i2c_instance_too_large;
     using hop_no_entity = msg::i2c_hop_no_entity;
 
-    static avl_root *index(inv_xml_handle *file)
-    {
-        return &file->i2c_xml_inst_index;
-    }
     static sch_cc_slot_xml_inst_type **slot_lists(inv_xml_handle *file)
     {
         return file->i2c_cc_slot_lists;
@@ -63,6 +60,7 @@ struct pcie_family {
     using sequence = sch_pcie_access_seq_type;
     using hop = sch_pcie_access_hop_type;
     using pair = sch_pcie_access_seq_pair_type;
+    static constexpr bus over = bus::pcie;
     static constexpr size_t max_hops = INV_PCIE_MAX_HOPS;
 
     using null_handle = msg::pcie_null_handle;
@@ -73,10 +71,6 @@ struct pcie_family {
     using instance_too_large = msg::pcie_instance_too_large;
     using hop_no_entity = msg::pcie_hop_no_entity;
 
-    static avl_root *index(inv_xml_handle *file)
-    {
-        return &file->pcie_xml_inst_index;
-    }
     static sch_cc_slot_xml_inst_type **slot_lists(inv_xml_handle *file)
     {
         return file->pcie_cc_slot_lists;

@@ -98,6 +98,7 @@ struct item {
     child_decoder decode = nullptr;     // for simple, record and group
     const char *counter = nullptr;      // name of the word count, for counted elements
     const xb_tokens *tokens = nullptr;  // of an enumeration
+    uint16_t capacity = 0;              // of an octet buffer
 };
 
 struct attribute_table {
@@ -114,6 +115,7 @@ struct content_table {
     int32_t count = 0;
     int32_t last_required = -1;
     bool has_counted = false;
+    bool has_groups = false;
     const xb_element_row *elements = nullptr;
     int32_t element_count = 0;
     const xb_plain_row *plain = nullptr;  // null: no item is plain

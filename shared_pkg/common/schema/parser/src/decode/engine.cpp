@@ -94,9 +94,10 @@ int32_t decode_single(xb_context *ctx, const content_row &place)
 }
 
 // The group's decoder reads the element that was looked up once more, as its own.
-int32_t decode_group(xb_context *ctx, const content_row &place)
+int32_t decode_group(xb_context *ctx, const content_row &place, bool is_read)
 {
-    rtXmlpMarkLastEventActive(ctx);
+    if (is_read)
+        rtXmlpMarkLastEventActive(ctx);
     rtXmlpForceDecodeAsGroup(ctx);
     int32_t status = place.row.decode(ctx, at(place.record, place.row.offset));
     if (status >= 0 || is_armed(ctx))
@@ -173,10 +174,10 @@ int32_t decode_run(xb_context *ctx, const content_row &place)
     return 0;
 }
 
-int32_t decode_row(xb_context *ctx, const content_row &place)
+int32_t decode_row(xb_context *ctx, const content_row &place, bool is_read)
 {
     if (place.row.kind == item_kind::group)
-        return decode_group(ctx, place);
+        return decode_group(ctx, place, is_read);
     bool is_list = place.row.occurs == occurrence::repeated || place.row.occurs == occurrence::counted;
     return is_list ? decode_run(ctx, place) : decode_single(ctx, place);
 }
@@ -202,11 +203,38 @@ int32_t check_counts(xb_context *ctx, const type_description &type, void *record
         if (place.row.kind != item_kind::group)
             status = check_count(ctx, place);
         else if (i >= position)
-            status = decode_group(ctx, place);
+            status = decode_group(ctx, place, true);
         if (status < 0)
             return status;
     }
     return 0;
+}
+
+// Plain elements are taken as far as they go; returns the position then reached.
+int32_t decode_plain(xb_context *ctx, const content_table &content, int32_t position, void *record)
+{
+    if (content.plain == nullptr)
+        return position;
+    return rtXmlpDecPlainElements(ctx, content.elements, content.element_count, content.sequence,
+                                  content.plain, position, content.count, record);
+}
+
+// Looks the next element up. One that only begins a group, or ends one, is another decoder's: a plain one
+// stays unread then.
+int32_t find_next(xb_context *ctx, const content_table &content, int32_t position, bool group, bool *is_read)
+{
+    if (group || content.has_groups) {
+        const int32_t index =
+            rtXmlpSeePlainElement(ctx, content.elements, content.element_count, content.sequence, position);
+        const bool ends = index == XB_END_OF_CONTENT;
+        *is_read = false;
+        if (ends ? group && position > content.last_required
+                 : index >= 0 && content.items[index].kind == item_kind::group)
+            return index;
+    }
+    *is_read = true;
+    return rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count, content.sequence, position,
+                                  content.last_required, group);
 }
 
 int32_t decode_content(xb_context *ctx, const type_description &type, void *record)
@@ -217,19 +245,17 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
     int32_t position = 0;
     while (position < content.count || armed.entered) {
         if (!armed.entered)
-            position = rtXmlpDecPlainElements(ctx, content.elements, content.element_count, content.sequence,
-                                              content.plain, position, content.count, record);
+            position = decode_plain(ctx, content, position, record);
         if (position >= content.count && !armed.entered)
             break;
-        int32_t index =
-            armed.entered ? next_row_armed(ctx, armed.scope, position)
-                          : rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count,
-                                                   content.sequence, position, content.last_required, group);
+        bool is_read = true;
+        int32_t index = armed.entered ? next_row_armed(ctx, armed.scope, position)
+                                      : find_next(ctx, content, position, group, &is_read);
         if (index < 0)
             return report(ctx, index, type.first_step + step_lookup);
         if (index == XB_END_OF_CONTENT)
             break;
-        int32_t status = decode_row(ctx, {type, content.items[index], index, record});
+        int32_t status = decode_row(ctx, {type, content.items[index], index, record}, is_read);
         if (status < 0)
             return status;
         position = index + 1;

@@ -68,6 +68,8 @@ constexpr std::array<xb_attribute_row, N> attribute_rows(const std::array<item, 
 // What the runtime's short ways decode of the items.
 constexpr uint8_t plain_kind_of(const item &row)
 {
+    if (row.occurs == occurrence::repeated && row.kind == item_kind::text)
+        return XB_PLAIN_TEXT_LIST;
     if (row.occurs == occurrence::repeated || row.occurs == occurrence::counted)
         return XB_PLAIN_NONE;
     switch (row.kind) {
@@ -89,8 +91,12 @@ constexpr uint8_t plain_kind_of(const item &row)
         return XB_PLAIN_BOOLEAN;
     case item_kind::text:
         return XB_PLAIN_TEXT;
+    case item_kind::octets:
+        return XB_PLAIN_OCTETS;
     case item_kind::simple:
-        return row.tokens != nullptr ? XB_PLAIN_TOKEN : XB_PLAIN_NONE;
+        if (row.tokens != nullptr)
+            return XB_PLAIN_TOKEN;
+        return row.capacity != 0 ? XB_PLAIN_BUFFER : XB_PLAIN_NONE;
     default:
         return XB_PLAIN_NONE;
     }
@@ -98,7 +104,7 @@ constexpr uint8_t plain_kind_of(const item &row)
 
 constexpr xb_plain_row plain_row_of(const item &row)
 {
-    return {row.tokens, row.offset, row.present.offset, row.present.mask, plain_kind_of(row)};
+    return {row.tokens, row.offset, row.present.offset, row.present.mask, plain_kind_of(row), row.capacity};
 }
 
 template <size_t N>
@@ -162,6 +168,24 @@ constexpr bool any_counted(const item (&items)[N])
     return counted;
 }
 
+template <size_t N>
+constexpr bool any_group(const item (&items)[N])
+{
+    bool group = false;
+    for (const item &row : items)
+        group = group || row.kind == item_kind::group;
+    return group;
+}
+
+template <size_t N>
+constexpr bool any_plain(const std::array<xb_plain_row, N> &rows)
+{
+    bool plain = false;
+    for (const xb_plain_row &row : rows)
+        plain = plain || row.kind != XB_PLAIN_NONE;
+    return plain;
+}
+
 template <size_t N, size_t M>
 constexpr content_table content_of(const item (&items)[N], const std::array<xb_sequence_row, N> &sequence,
                                    const std::array<xb_element_row, M> &elements,
@@ -172,9 +196,10 @@ constexpr content_table content_of(const item (&items)[N], const std::array<xb_s
             .count = static_cast<int32_t>(N),
             .last_required = last_required_of(items),
             .has_counted = any_counted(items),
+            .has_groups = any_group(items),
             .elements = elements.data(),
             .element_count = static_cast<int32_t>(M),
-            .plain = plain.data()};
+            .plain = any_plain(plain) ? plain.data() : nullptr};
 }
 
 template <size_t N>

@@ -64,6 +64,8 @@ bool add_chunk_range(const void *chunk, size_t size) noexcept
 void remove_chunk_range(const void *chunk) noexcept
 {
     size_t position = find(reinterpret_cast<uintptr_t>(chunk));
+    if (position >= range_count)
+        return;
     --range_count;
     memmove(ranges + position, ranges + position + 1, (range_count - position) * sizeof(range));
     if (range_count > 0)

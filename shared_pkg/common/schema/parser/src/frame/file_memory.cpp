@@ -3,6 +3,7 @@
 #include "frame/chunk_ranges.h"
 #include "inv_platform/system_memory.h"
 
+#include <atomic>
 #include <stdint.h>
 #include <string.h>
 
@@ -20,7 +21,16 @@ constexpr size_t largest_chunk_size = size_t{4} * 1024 * 1024;
 // left behind is larger.
 constexpr size_t single_chunk_part = 4;
 
+// Nodes of trees and indexes lie close together: between the records, ten times as large, each would be on a
+// page of its own.
+constexpr size_t largest_small_size = 64;
+constexpr size_t small_block_size = 4096;
+
 static_assert(sizeof(chunk) % record_alignment == 0, "records follow the header directly");
+
+// True once any record came from the process heap: from then on one may hang below any file's records.
+// Builders run without the lock.
+std::atomic<bool> heap_records_were_made;
 
 // Memory of the file being loaded; null outside a load and for handles without side record.
 file_memory *loading;
@@ -87,11 +97,9 @@ size_t size_after(const chunk *current)
     return current->size < largest_chunk_size ? current->size * 2 : largest_chunk_size;
 }
 
-void *take(file_memory *memory, size_t size)
+// size is a multiple of the alignment.
+void *take_aligned(file_memory *memory, size_t size)
 {
-    if (size > SIZE_MAX / 2)
-        return nullptr;
-    size = size == 0 ? record_alignment : (size + record_alignment - 1) & ~(record_alignment - 1);
     if (size > static_cast<size_t>(memory->free_end - memory->free_begin)) {
         chunk *next = memory->current == nullptr ? memory->first : memory->current->next;
         size_t next_size = next == nullptr ? size_after(memory->current) : next->size;
@@ -102,6 +110,25 @@ void *take(file_memory *memory, size_t size)
     }
     void *taken = memory->free_begin;
     memory->free_begin += size;
+    return taken;
+}
+
+void *take(file_memory *memory, size_t size)
+{
+    if (size > SIZE_MAX / 2)
+        return nullptr;
+    size = size == 0 ? record_alignment : (size + record_alignment - 1) & ~(record_alignment - 1);
+    if (size > largest_small_size)
+        return take_aligned(memory, size);
+    if (size > static_cast<size_t>(memory->small_end - memory->small_begin)) {
+        auto *block = static_cast<char *>(take_aligned(memory, small_block_size));
+        if (block == nullptr)
+            return nullptr;
+        memory->small_begin = block;
+        memory->small_end = block + small_block_size;
+    }
+    void *taken = memory->small_begin;
+    memory->small_begin += size;
     return taken;
 }
 
@@ -118,6 +145,7 @@ void clear(file_memory *memory)
             memory->current = nullptr;
     }
     memory->free_begin = memory->free_end = nullptr;
+    memory->small_begin = memory->small_end = nullptr;
 }
 
 }  // namespace
@@ -129,7 +157,15 @@ namespace inv
 
 void *record_request(size_t size) noexcept
 {
-    return frame::loading != nullptr ? frame::take(frame::loading, size) : memory::request(size);
+    if (frame::loading != nullptr)
+        return frame::take(frame::loading, size);
+    frame::heap_records_were_made.store(true, std::memory_order_relaxed);
+    return memory::request(size);
+}
+
+bool holds_all_records(const inv_xml_handle *handle) noexcept
+{
+    return !frame::heap_records_were_made.load(std::memory_order_relaxed) && has_side_record(handle);
 }
 
 void record_free(void *record) noexcept

@@ -32,6 +32,10 @@ Record *record_new() noexcept
 // Gives heap memory back; leaves a file's memory to its file. Null is ignored.
 void record_free(void *record) noexcept;
 
+// True when everything that hangs below the handle's records, tree and indexes lies in the file's memory:
+// the process has never made a record outside a load. Nothing has to be looked for record by record then.
+bool holds_all_records(const inv_xml_handle *handle) noexcept;
+
 // A load is in progress from begin_load() to end_load(); loads never nest. What earlier failed loads of the
 // handle had built is cleared, the handle's module record included, and their chunks serve again: a load
 // that ends as failed leaves nothing behind that may be used once the next one begins. For a handle

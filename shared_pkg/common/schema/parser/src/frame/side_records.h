@@ -12,8 +12,8 @@ namespace inv
 {
 
 // Tables that make queries on a handle fast; each subsystem owns its own.
-enum class side_table : uint8_t { eid_lookup };
-inline constexpr size_t side_table_count = 1;
+enum class side_table : uint8_t { eid_lookup, instances, type_index };
+inline constexpr size_t side_table_count = 3;
 
 using side_table_release = void (*)(void *table);
 
@@ -58,6 +58,8 @@ struct file_memory {
     chunk *single;     // chunks that hold one large request each
     char *free_begin;  // rest of `current`
     char *free_end;
+    char *small_begin;  // rest of the block that small requests come from
+    char *small_end;
     bool is_kept;       // a load succeeded: nothing in here may be cleared
     bool is_discarded;  // only loads that failed have built here
 };

@@ -3,6 +3,7 @@
 #ifndef FRAME_TRACE_H
 #define FRAME_TRACE_H
 
+#include "frame/channel.h"
 #include "inv_parser/frame.h"
 #include "inv_platform/trace.h"
 
@@ -145,6 +146,9 @@ template <class Message, class... Arguments>
 requires(trace_rules::takes<Message, Arguments...>()) uint32_t trace(Arguments... arguments)
 noexcept
 {
+    // Most sites are silent most of the time: that is decided here, without a call.
+    if (frame::trace_ready.load(std::memory_order_relaxed) == 0)
+        return frame::channel_not_ready;
     void *channel = nullptr;
     uint32_t not_ready = inv_schema_get_qtrace_hdl(&channel);
     if (not_ready != 0)

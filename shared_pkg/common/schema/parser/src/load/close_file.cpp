@@ -5,6 +5,7 @@
 #include "inv_parser/tree_internal.h"
 #include "load/document_kind.h"
 #include "tree/current_file.h"
+#include "tree/instance_table.h"
 
 namespace
 {
@@ -39,7 +40,11 @@ void release_document(inv_xml_handle *handle)
         kind = loaded;
     const load::kind_actions &actions = load::actions_of(kind);
     bool releases = !actions.needs_tree || (handle->root != nullptr && handle->root->record != nullptr);
-    actions.release(handle);
+    // The walk over all records would find nothing to give back.
+    if (releases && holds_all_records(handle))
+        handle_forget(handle);
+    else
+        actions.release(handle);
     // Kept: without a root record the handle stays allocated. Its file's memory does not.
     if (!releases)
         release_memory_of_kept_handle(handle);
@@ -54,6 +59,10 @@ void close_last(inv_xml_handle *handle)
         root_eid = nullptr;
     if (current_file() == handle)
         parser_set_inv_file_instance(nullptr);
+    if (holds_all_records(handle)) {
+        take_instances_out(handle, bus::i2c, parser_xml_inst_compare);
+        take_instances_out(handle, bus::pcie, parser_xml_inst_compare);
+    }
     parser_avl_delete_inst_tree(&handle->i2c_xml_inst_index, parser_xml_inst_compare);
     parser_avl_delete_inst_tree(&handle->pcie_xml_inst_index, parser_xml_inst_compare);
     parser_free_cc_slot_xml_inst(handle->i2c_cc_slot_lists);

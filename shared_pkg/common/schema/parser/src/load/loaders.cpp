@@ -11,6 +11,7 @@
 #include "inv_platform/xml_runtime.h"
 #include "inventory_Derivations.h"
 #include "tree/growth.h"
+#include "tree/instance_table.h"
 
 sch_chassis_type *chassis_data;
 sch_module_type *module_data;
@@ -167,6 +168,7 @@ int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename D
         return Document::reports_decode_status ? status : 0;
     }
     // Only while the builders run does anything get filed under this handle.
+    begin_instance_table(handle);
     tree_growth_scope growth;
     slot_lookup_scope slots(handle);
     parser_set_inv_file_instance(handle);

@@ -101,7 +101,7 @@ uint32_t reset_flags(const BaseEntityType *from)
 
 // Of several entities with one xml instance the last one stays in the index.
 template <class NoMemory, class InsertFailed>
-bool index_entity(avl_root *index, sch_base_entity_type *record)
+bool index_entity(const xml_instance_index &index, sch_base_entity_type *record)
 {
     auto *node = obtain_index_node<NoMemory, InsertFailed>(index, record->xml_instance);
     if (node == nullptr)
@@ -126,12 +126,12 @@ bool index_in_current_file(sch_base_entity_type *record)
     inv_xml_handle *file = current_file();
     if (file != nullptr &&
         !index_entity<msg::base_entity_i2c_index_no_memory, msg::base_entity_i2c_avl_insert_failed>(
-            &file->i2c_xml_inst_index, record))
+            index_of(file, bus::i2c), record))
         return false;
     enter_in_chain_table(record);
     return file == nullptr ||
            index_entity<msg::base_entity_pcie_index_no_memory, msg::base_entity_pcie_avl_insert_failed>(
-               &file->pcie_xml_inst_index, record);
+               index_of(file, bus::pcie), record);
 }
 
 void fill_nested(sch_base_entity_type *record, const BaseEntityType *from)

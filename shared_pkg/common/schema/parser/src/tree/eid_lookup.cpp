@@ -67,7 +67,10 @@ eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) 
     if (lookup != nullptr && !lookup->has_paths)
         lookup->has_paths = lookup->paths.build();
     if (lookup != nullptr && lookup->has_paths) {
-        eid_chain_node *node = lookup->paths.find(*eid);
+        eid_chain_node *node = lookup->paths.find_whole(*eid);
+        if (node != nullptr)
+            return node;
+        node = lookup->paths.find(*eid);
         if (node != nullptr && still_answers(node, eid))
             return node;
     }
@@ -77,6 +80,11 @@ eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) 
 void note_tree_growth() noexcept
 {
     ++growth_count;
+}
+
+uint64_t tree_growth_count() noexcept
+{
+    return growth_count;
 }
 
 }  // namespace inv

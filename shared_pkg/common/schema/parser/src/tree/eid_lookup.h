@@ -17,6 +17,9 @@ eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) 
 // To be called whenever a tree grows: tables made before are out of date.
 void note_tree_growth() noexcept;
 
+// Differs from what it was when a tree has grown.
+uint64_t tree_growth_count() noexcept;
+
 }  // namespace inv
 
 #endif

@@ -1,6 +1,7 @@
 #include "tree/eid_walks.h"
 
 #include "inv_parser/tree_internal.h"
+#include "tree/eid_fill.h"
 #include "tree/entity_walk.h"
 
 namespace inv
@@ -46,10 +47,20 @@ size_t count_entities(eid_chain_node *list, const entity_filter &filter) noexcep
 size_t fill_eids(eid_chain_node *list, const entity_filter &filter, sch_eid_type *array) noexcept
 {
     size_t count = 0;
-    visit_entities(list, [&](eid_chain_node *node) {
+    visit_eids(list, [&](const eid_chain_node *node, const sch_eid_type &eid) {
         if (passes(node, filter))
-            parser_populate_parent_eid_data(node, &array[count++]);
+            array[count++] = eid;
     });
+    return count;
+}
+
+size_t fill_eids_below(eid_chain_node *node, sch_eid_type *array) noexcept
+{
+    size_t count = 0;
+    sch_eid_type path;
+    parser_populate_parent_eid_data(node, &path);
+    visit_eids_below(node, path,
+                     [&](const eid_chain_node *, const sch_eid_type &eid) { array[count++] = eid; });
     return count;
 }
 

@@ -38,6 +38,9 @@ size_t count_entities(eid_chain_node *list, const entity_filter &filter) noexcep
 // Writes the full EIDs of the entities counted by count_entities(). Returns their number.
 size_t fill_eids(eid_chain_node *list, const entity_filter &filter, sch_eid_type *array) noexcept;
 
+// The same for all entities below the node.
+size_t fill_eids_below(eid_chain_node *node, sch_eid_type *array) noexcept;
+
 }  // namespace inv
 
 #endif

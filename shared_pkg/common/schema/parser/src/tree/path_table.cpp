@@ -30,6 +30,21 @@ void visit_paths(eid_chain_node *node, const Visit &visit)
             visit(eid, depth);
 }
 
+// True when the path is the node's full EID with its own triple as the last level, which is how nearly all
+// nodes are found. Climbs without building the EID; false says nothing of deeper or shortened paths.
+bool is_whole_path(const eid_chain_node *node, const sch_eid_type &path)
+{
+    if (full_subtype(node) != path.levels[path.depth - 1].subtype)
+        return false;
+    const eid_chain_node *each = node;
+    for (int i = path.depth; i-- > 0;) {
+        if (each == nullptr || !same_level(level_of(each), path.levels[i]))
+            return false;
+        each = each == root_eid ? nullptr : each->parent;
+    }
+    return each == nullptr;
+}
+
 // The start of the hash is an address, so that no document can be made for paths that collide.
 size_t hash_of_path(const void *start, const sch_eid_type &path, uint8_t depth)
 {
@@ -104,6 +119,18 @@ eid_chain_node *path_table::find(const sch_eid_type &eid) const noexcept
     if (eid.depth == 0 || eid.depth > INV_EID_MAX_DEPTH)
         return nullptr;
     return locate(eid, eid.depth, hash_of_path(entries, eid, eid.depth))->node;
+}
+
+eid_chain_node *path_table::find_whole(const sch_eid_type &eid) const noexcept
+{
+    if (eid.depth == 0 || eid.depth > INV_EID_MAX_DEPTH)
+        return nullptr;
+    size_t hash = hash_of_path(entries, eid, eid.depth);
+    auto tag = static_cast<uint32_t>(hash >> 32);
+    for (size_t at = hash & mask; entries[at].node != nullptr; at = (at + 1) & mask)
+        if (entries[at].hash == tag && entries[at].depth == eid.depth)
+            return is_whole_path(entries[at].node, eid) ? entries[at].node : nullptr;
+    return nullptr;
 }
 
 }  // namespace inv

@@ -26,6 +26,10 @@ public:
 
     eid_chain_node *find(const sch_eid_type &eid) const noexcept;
 
+    // The same node, when its records as they are now spell out the EID from the root down to it. Null when
+    // they do not, and in rare other cases: then find() has to tell.
+    eid_chain_node *find_whole(const sch_eid_type &eid) const noexcept;
+
 private:
     // A node, and how many levels of its EID are the path it stands under. Free while node is null.
     struct entry {

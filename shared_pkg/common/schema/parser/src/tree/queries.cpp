@@ -8,6 +8,7 @@
 #include "tree/eid_lookup.h"
 #include "tree/eid_walks.h"
 #include "tree/entity_walk.h"
+#include "tree/type_index.h"
 
 using namespace inv;
 
@@ -17,10 +18,12 @@ namespace
 // ORVL_ENTITY_OWNER_TYPE_ALL: no narrowing.
 constexpr uint32_t owner_all = 6;
 
-// An array of no records is an answer, too: never null for want of size.
+// An array of no records is an answer, too: never null for want of size. Not zero-filled where every octet
+// will be written.
 sch_eid_type *request_eids(size_t count)
 {
-    return static_cast<sch_eid_type *>(memory::request((count == 0 ? 1 : count) * sizeof(sch_eid_type)));
+    return static_cast<sch_eid_type *>(count == 0 ? memory::request(sizeof(sch_eid_type))
+                                                  : memory::resize(nullptr, count * sizeof(sch_eid_type)));
 }
 
 // An EID that holds nothing but the node's own triple.
@@ -70,7 +73,8 @@ uint32_t collect(inv_xml_handle *handle, uint32_t owner, const entity_filter &fi
     reset_scratch();
     if (!enter_tree<NoRoot>(handle))
         return 1;
-    size_t found = count_entities(root_eid, filter);
+    const type_index *index = type_index_for(handle, filter);
+    size_t found = index != nullptr ? count_entities(*index, filter) : count_entities(root_eid, filter);
     global_eid_count = static_cast<uint16_t>(found);
     if (found <= UINT16_MAX)
         global_eid = request_eids(found);
@@ -78,7 +82,9 @@ uint32_t collect(inv_xml_handle *handle, uint32_t owner, const entity_filter &fi
         trace<NoMemory>();
         return 1;
     }
-    global_tmp_count = static_cast<uint16_t>(fill_eids(root_eid, filter, global_eid));
+    size_t filled =
+        index != nullptr ? fill_eids(*index, filter, global_eid) : fill_eids(root_eid, filter, global_eid);
+    global_tmp_count = static_cast<uint16_t>(filled);
     uint32_t delivered = 0;
     deliver(owner, static_cast<uint32_t>(found), &delivered, out);
     *count = static_cast<uint16_t>(delivered);
@@ -127,7 +133,7 @@ uint32_t answer_subtree(eid_chain_node *start, uint32_t owner, sch_eid_type **ou
     }
     // Kept: the start stands in the answer as its own triple, unlike its descendants.
     global_eid[0] = own_eid(start, 1);
-    size_t filled = 1 + fill_eids(start->first_child, every_entity(), global_eid + 1);
+    size_t filled = 1 + fill_eids_below(start, global_eid + 1);
     global_tmp_count = static_cast<uint16_t>(filled);
     deliver(owner, static_cast<uint32_t>(filled), count, out);
     global_eid = nullptr;

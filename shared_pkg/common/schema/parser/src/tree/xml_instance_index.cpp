@@ -2,11 +2,14 @@
 #include "frame/file_memory.h"
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/avl.h"
+#include "tree/instance_table.h"
 
 void parser_avl_delete_inst_tree(avl_root *root, avl_compare compare)
 {
     if (root == nullptr)
         return;
+    if (*root != nullptr)
+        inv::forget_instances();
     while (void *first = avl_get_first(root)) {
         // Without this a tree that cannot be emptied would keep the close going for ever.
         if (avl_delete(root, first, compare, 0) == nullptr)
