@@ -136,8 +136,7 @@ void note_error(xb_context_state &state)
     xb_error_details details = {};
     details.item = record_around(armed, r.tags, r.tags.depth);
     if (r.tags.depth > 0)
-        details.element =
-            heap_copy_text(state.memory, r.tags.elements[r.tags.depth - 1].name);
+        details.element = heap_copy_text(state.memory, r.tags.elements[r.tags.depth - 1].name);
     const xb_context self = {&state};
     xb_error error;
     rtxErrGet(&self, state.errors.count - 1, &error);

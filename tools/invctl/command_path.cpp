@@ -136,7 +136,8 @@ std::vector<path_hop> describe(const Sequence *sequence, const document *card, s
     for (size_t i = 0; i < sequence->hop_count; ++i) {
         const auto &hop = sequence->hops[i];
         bool is_target = i + 1 == sequence->hop_count && i >= card_hops && hop.xml_instance == target;
-        hops.push_back(invctl::describe_hop(card != nullptr && i < card_hops ? *card : opened, hop, is_target));
+        hops.push_back(
+            invctl::describe_hop(card != nullptr && i < card_hops ? *card : opened, hop, is_target));
     }
     return hops;
 }
