@@ -22,8 +22,8 @@ inline int32_t find_name(const Row *rows, int32_t row_count, std::string_view na
                          IsAllowed is_allowed)
 {
     if (row_count > 1 && rows[0].link.hash != 0) {
-        uint64_t bucket = uint64_t{hash} * static_cast<uint32_t>(row_count) >> 32;
-        for (uint32_t next = rows[bucket].link.first; next != 0; next = rows[next - 1].link.next) {
+        const uint64_t scaled = static_cast<uint64_t>(hash) * static_cast<uint32_t>(row_count);
+        for (uint32_t next = rows[scaled >> 32].link.first; next != 0; next = rows[next - 1].link.next) {
             const Row &row = rows[next - 1];
             if (row.link.hash == hash && is_allowed(row) && has_name(row, name))
                 return static_cast<int32_t>(next - 1);

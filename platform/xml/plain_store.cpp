@@ -65,8 +65,8 @@ bool store_text(heap &memory, std::string_view text, bool is_padded, void *to)
 bool store_token(const xb_tokens &tokens, std::string_view text, void *to)
 {
     const uint32_t hash = inv::name_hash(text.data(), text.size());
-    uint64_t bucket = uint64_t{hash} * tokens.count >> 32;
-    for (uint32_t next = tokens.links[bucket].first; next != 0; next = tokens.links[next - 1].next) {
+    const uint64_t scaled = static_cast<uint64_t>(hash) * tokens.count;
+    for (uint32_t next = tokens.links[scaled >> 32].first; next != 0; next = tokens.links[next - 1].next) {
         const xb_enum_row &row = tokens.rows[next - 1];
         if (tokens.links[next - 1].hash == hash && row.token_length == text.size() &&
             same_octets(row.token, text.data(), text.size())) {

@@ -37,7 +37,8 @@ int32_t parse_integer(std::string_view text, Integer &value)
     if (magnitude.empty() || parsed.ptr != end)
         return XB_E_BAD_INTEGER;
     auto greatest = static_cast<uint64_t>(std::numeric_limits<Integer>::max());
-    uint64_t limit = !negative ? greatest : std::is_signed_v<Integer> ? greatest + 1 : 0;
+    const uint64_t least = std::is_signed_v<Integer> ? greatest + 1 : 0;
+    const uint64_t limit = negative ? least : greatest;
     if (parsed.ec != std::errc() || number > limit)
         return XB_E_OUT_OF_RANGE;
     value = static_cast<Integer>(negative ? 0 - number : number);

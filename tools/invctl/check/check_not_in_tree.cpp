@@ -33,8 +33,8 @@ void check_not_in_tree(const checked_document &document, finding_list &found)
         std::string text = "the entity will not be in the entity tree: the library does not read it here";
         if (below != 0)
             text += below == 1 ? ", nor the entity in it" : ", nor the " + std::to_string(below) + " in it";
-        report(found, document, &each, each.record, std::move(text)).hint =
-            "place it under an element that the library reads entities from";
+        finding &told = report(found, document, &each, each.record, text);
+        told.hint = "place it under an element that the library reads entities from";
     }
 }
 
