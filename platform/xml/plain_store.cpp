@@ -28,28 +28,39 @@ bool parse_digits(std::string_view text, uint64_t &number)
     return true;
 }
 
+// The whole of the lexical rules, out of the way of what is usual.
 template <typename Integer>
-bool store_integer(std::string_view text, void *to)
+[[gnu::noinline]] bool store_odd_integer(std::string_view text, void *to)
 {
     Integer value;
-    uint64_t number;
-    if (parse_digits(text, number) && number <= uint64_t{std::numeric_limits<Integer>::max()})
-        value = static_cast<Integer>(number);
-    else if (parse_integer(text, value) != XB_OK)
+    if (parse_integer(text, value) != XB_OK)
         return false;
     memcpy(to, &value, sizeof value);
     return true;
 }
 
+template <typename Integer>
+bool store_integer(std::string_view text, void *to)
+{
+    uint64_t number;
+    if (!parse_digits(text, number) || number > uint64_t{std::numeric_limits<Integer>::max()})
+        return store_odd_integer<Integer>(text, to);
+    const auto value = static_cast<Integer>(number);
+    memcpy(to, &value, sizeof value);
+    return true;
+}
+
+[[gnu::noinline]] bool store_odd_boolean(std::string_view text, void *to)
+{
+    return parse_boolean(text, *static_cast<uint8_t *>(to)) == XB_OK;
+}
+
 bool store_boolean(std::string_view text, void *to)
 {
-    uint8_t &value = *static_cast<uint8_t *>(to);
-    if (text.size() == 4 && same_octets(text.data(), "true", 4))
-        value = 1;
-    else if (text.size() == 5 && same_octets(text.data(), "false", 5))
-        value = 0;
-    else
-        return parse_boolean(text, value) == XB_OK;
+    const bool is_true = text.size() == 4 && same_octets(text.data(), "true", 4);
+    if (!is_true && !(text.size() == 5 && same_octets(text.data(), "false", 5)))
+        return store_odd_boolean(text, to);
+    *static_cast<uint8_t *>(to) = is_true;
     return true;
 }
 
@@ -77,7 +88,7 @@ bool store_token(const xb_tokens &tokens, std::string_view text, void *to)
     return false;
 }
 
-bool store_octets(heap &memory, std::string_view text, void *to)
+[[gnu::noinline]] bool store_octets(heap &memory, std::string_view text, void *to)
 {
     if (!is_hexadecimal(text) || text.empty() || text.size() / 2 > UINT32_MAX)
         return false;
@@ -89,7 +100,7 @@ bool store_octets(heap &memory, std::string_view text, void *to)
     return true;
 }
 
-bool store_buffer(uint32_t capacity, std::string_view text, void *to)
+[[gnu::noinline]] bool store_buffer(uint32_t capacity, std::string_view text, void *to)
 {
     if (text.size() != size_t{2} * capacity || !is_hexadecimal(text))
         return false;
@@ -97,6 +108,8 @@ bool store_buffer(uint32_t capacity, std::string_view text, void *to)
     convert_hexadecimal(text, static_cast<uint8_t *>(to) + sizeof capacity);
     return true;
 }
+
+}  // namespace
 
 bool store_value(heap &memory, const xb_plain_row &row, std::string_view text, bool is_padded, void *to)
 {
@@ -128,17 +141,6 @@ bool store_value(heap &memory, const xb_plain_row &row, std::string_view text, b
     default:
         return false;
     }
-}
-
-}  // namespace
-
-bool store_plain(heap &memory, const xb_plain_row &row, std::string_view text, bool is_padded, void *record)
-{
-    char *to = static_cast<char *>(record) + row.offset;
-    if (!store_value(memory, row, text, is_padded, to))
-        return false;
-    static_cast<uint8_t *>(record)[row.present_offset] |= row.present_mask;
-    return true;
 }
 
 }  // namespace inv::xml

@@ -57,10 +57,11 @@ inline octet_marks beyond_ascii(const octet_block &block)
     return block.octets;
 }
 
-// Control octets and those beyond ASCII: as signed numbers they all lie below the blank.
+// Control octets and those beyond ASCII: as signed numbers they all lie below the blank. The sign counts
+// only, so that one saturating difference will do.
 inline octet_marks not_printable(const octet_block &block)
 {
-    return _mm_cmplt_epi8(block.octets, splat(0x20));
+    return _mm_subs_epi8(block.octets, splat(0x20));
 }
 
 inline octet_marks either(octet_marks a, octet_marks b)
@@ -68,17 +69,22 @@ inline octet_marks either(octet_marks a, octet_marks b)
     return _mm_or_si128(a, b);
 }
 
-// Index of the first marked octet, octet_block::size when there is none.
-inline size_t first_marked(octet_marks marks)
+// The marks as bits, and the index of the octet that the lowest one stands for.
+using mark_bits = uint32_t;
+
+inline mark_bits bits_of(octet_marks marks)
 {
-    auto bits = static_cast<uint32_t>(_mm_movemask_epi8(marks));
-    return static_cast<size_t>(std::countr_zero(bits | 0x10000U));
+    return static_cast<mark_bits>(_mm_movemask_epi8(marks));
 }
 
-inline size_t first_unmarked(octet_marks marks)
+inline mark_bits unmarked_bits_of(octet_marks marks)
 {
-    auto bits = static_cast<uint32_t>(_mm_movemask_epi8(marks));
-    return static_cast<size_t>(std::countr_zero(~bits));
+    return bits_of(marks) ^ 0xFFFFU;
+}
+
+inline size_t first_of(mark_bits bits)
+{
+    return static_cast<size_t>(std::countr_zero(bits));
 }
 
 #else
@@ -142,14 +148,21 @@ inline octet_marks either(octet_marks a, octet_marks b)
     return a | b;
 }
 
-inline size_t first_marked(octet_marks marks)
+using mark_bits = uint64_t;
+
+inline mark_bits bits_of(octet_marks marks)
 {
-    return static_cast<size_t>(std::countr_zero(marks & top_bits)) / 8;
+    return marks & top_bits;
 }
 
-inline size_t first_unmarked(octet_marks marks)
+inline mark_bits unmarked_bits_of(octet_marks marks)
 {
-    return static_cast<size_t>(std::countr_zero(~marks & top_bits)) / 8;
+    return ~marks & top_bits;
+}
+
+inline size_t first_of(mark_bits bits)
+{
+    return static_cast<size_t>(std::countr_zero(bits)) / 8;
 }
 
 #endif
@@ -158,22 +171,20 @@ inline size_t first_unmarked(octet_marks marks)
 template <typename MarksOf>
 inline const char *scan_to(const char *at, MarksOf marks_of)
 {
-    for (;;) {
-        size_t index = first_marked(marks_of(octet_block(at)));
-        at += index;
-        if (index < octet_block::size)
-            return at;
+    for (;; at += octet_block::size) {
+        const mark_bits bits = bits_of(marks_of(octet_block(at)));
+        if (bits != 0)
+            return at + first_of(bits);
     }
 }
 
 template <typename MarksOf>
 inline const char *scan_over(const char *at, MarksOf marks_of)
 {
-    for (;;) {
-        size_t index = first_unmarked(marks_of(octet_block(at)));
-        at += index;
-        if (index < octet_block::size)
-            return at;
+    for (;; at += octet_block::size) {
+        const mark_bits bits = unmarked_bits_of(marks_of(octet_block(at)));
+        if (bits != 0)
+            return at + first_of(bits);
     }
 }
 

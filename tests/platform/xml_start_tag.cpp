@@ -19,8 +19,23 @@ struct tag_reading {
     event out = {};
     bool is_empty = false;
     lexed result;
+    size_t start = 0;  // of the tag
 
     explicit tag_reading(std::string_view text) : part(text, false)
+    {
+        read();
+    }
+    // A tag behind others, which make their names known.
+    tag_reading(const std::string &others, std::string_view text) : part(others + std::string(text), false)
+    {
+        while (start < others.size()) {
+            read();
+            attributes.count = 0;
+            start = part.index_of(part.at);
+        }
+        read();
+    }
+    void read()
     {
         const event_reader lent = {&attributes, &texts, nullptr, nullptr, nullptr};
         result = lex_start_tag(part.lex, part.at, lent, out, is_empty);
@@ -179,6 +194,67 @@ TEST(XmlStartTag, the_first_repeated_name_is_found_among_any_number)
 TEST(XmlStartTag, many_attributes_cost_no_more_than_sorting_them)
 {
     EXPECT_EQ(tag_reading(with_attributes(200000, 199999)).result, lexed::bad);
+}
+
+const std::string teacher = R"(<a name="1" b="2" firmwareVersion="3" a-name-of-thirty-two-octets-asis="4">)";
+
+const std::string_view tags_of_known_names[] = {
+    R"(<a name="" b='2' firmwareVersion = "3" a-name-of-thirty-two-octets-asis="4"/>)",
+    R"(<a b="2" name="1">)",
+    R"(<a name="1" firmwareVersion="3">)",
+    R"(<a name="1" other="5" b="2" firmwareVersion="3">)",
+    R"(<a name="1" name="2">)",
+    R"(<a name="1" b="2" name="3" b="4">)",
+    R"(<a name="1" other="2" b="3" other="4">)",
+    R"(<a nam="1" names="2" name-="3" b.="4" firmwareVersio="5" firmwareVersionX="6">)",
+    R"(<a a-name-of-thirty-two-octets-asisX="1" a-name-of-thirty-two-octets-asi="2">)",
+    R"(<a name:p="1" b="2">)",
+    R"(<a name="1"b="2">)",
+    R"(<a name="&lt;" b="&#10;">)",
+    R"(<a name="<" b="2">)",
+    R"(<a name="1" b="&unknown;">)",
+    "<a name=\"1\n2\" b=\"\xC3\xBC\">",
+    "<a name=\"1\" b=\"\x01\">",
+    "<a\nname=\"1\"  b=\"2\"\tfirmwareVersion=\"3\" >",
+    R"(<a name="1)",
+    R"(<a name=")",
+    R"(<a name=)",
+    R"(<a name)",
+    R"(<a name="1" )",
+};
+
+void expect_likeness(const tag_reading &taught, const tag_reading &fresh, std::string_view text)
+{
+    ASSERT_EQ(taught.result, fresh.result) << text;
+    ASSERT_EQ(taught.attributes.count, fresh.attributes.count) << text;
+    EXPECT_EQ(taught.described(), fresh.described()) << text;
+    if (fresh.result == lexed::bad) {
+        EXPECT_EQ(taught.part.index_of(taught.part.lex.fault.at) - taught.start,
+                  fresh.part.index_of(fresh.part.lex.fault.at))
+            << text;
+        EXPECT_EQ(taught.part.lex.fault.error, fresh.part.lex.fault.error) << text;
+    }
+    for (size_t i = 0; i < fresh.attributes.count; ++i) {
+        EXPECT_EQ(taught.attributes.items[i].markup_at, fresh.attributes.items[i].markup_at) << text;
+        EXPECT_EQ(taught.attributes.items[i].name_hash, fresh.attributes.items[i].name_hash) << text;
+    }
+}
+
+TEST(XmlStartTag, is_read_alike_whether_its_names_are_known_or_not)
+{
+    for (const std::string &others :
+         {teacher, teacher + "<a b=\"1\" name=\"2\">" + teacher, teacher + "<a other='1'>"}) {
+        for (std::string_view text : tags_of_known_names)
+            expect_likeness(tag_reading(others, text), tag_reading(text), text);
+    }
+}
+
+TEST(XmlStartTag, names_beyond_those_that_can_be_known_are_read_alike)
+{
+    for (int repeated : {-1, 4, 50, 70, 99}) {
+        const std::string text = with_attributes(100, repeated);
+        expect_likeness(tag_reading(with_attributes(60, -1), text), tag_reading(text), text);
+    }
 }
 
 TEST(XmlStartTag, that_memory_does_not_suffice_for_leaves_no_attribute)

@@ -334,7 +334,9 @@ int32_t rtXmlpDecAny(xb_context *ctx, char **text);
  * one before has left (see rtXmlpGetNextSeqElemID()). Returns the position then reached, `position`
  * itself when nothing was plain; the first element that is not stays unread. Never fails and never
  * records anything: whatever is odd, or wrong, is left to the long way, and so is everything in
- * contexts whose reader cannot look that far ahead. `plain` has position_count rows. */
+ * contexts whose reader cannot look that far ahead. `plain` has position_count rows. The tables have to
+ * stay as they are for as long as the reader is used: where a name was found is kept. Of a repeated
+ * element the last occurrence is decoded only when another plain element follows. */
 int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int32_t row_count,
                                const xb_sequence_row *sequence, const xb_plain_row *plain, int32_t position,
                                int32_t position_count, void *record);
