@@ -77,7 +77,7 @@ std::string item_row(const home &h, const item &i)
                        ".decode = child<XmlDT_" + i.type + suffix + ">");
     fields.insert(fields.end(), of_list.begin(), of_list.end());
     if (i.kind == value_kind::enumeration && !is_list(i))
-        fields.push_back(".tokens = &tokens::" + i.type);
+        fields.insert(fields.end(), {".tokens = &tokens::" + i.type, ".has_tokens = true"});
     if (i.kind == value_kind::octet_buffer && !is_list(i))
         fields.push_back(".capacity = sizeof " + i.type + "::octets");
     return table_row(fields);

@@ -98,6 +98,7 @@ struct item {
     child_decoder decode = nullptr;     // for simple, record and group
     const char *counter = nullptr;      // name of the word count, for counted elements
     const xb_tokens *tokens = nullptr;  // of an enumeration
+    bool has_tokens = false;            // whether they are given, for tables made at compile time
     uint16_t capacity = 0;              // of an octet buffer
 };
 

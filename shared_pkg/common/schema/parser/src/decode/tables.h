@@ -94,7 +94,7 @@ constexpr uint8_t plain_kind_of(const item &row)
     case item_kind::octets:
         return XB_PLAIN_OCTETS;
     case item_kind::simple:
-        if (row.tokens != nullptr)
+        if (row.has_tokens)
             return XB_PLAIN_TOKEN;
         return row.capacity != 0 ? XB_PLAIN_BUFFER : XB_PLAIN_NONE;
     default:
