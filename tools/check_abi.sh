@@ -24,6 +24,8 @@ for library in inv_parser inv_platform; do
     file=$(find "$build" -name "lib$library.so" | head -n 1)
     description=abi/lib$library.abi
     describe "$file" "$work/abi"
+    # Where a build folder lies shows in relative paths.
+    sed -i -E "s:path='([.][.]/)+:path=':" "$work/abi"
     if [ -n "$regenerate" ]; then
         cp "$work/abi" "$description"
     elif abidiff --no-architecture "$description" "$work/abi"; then
