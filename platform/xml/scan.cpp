@@ -9,7 +9,7 @@ namespace inv::xml
 
 uint64_t count_octets(const char *from, const char *to, char wanted)
 {
-    constexpr ptrdiff_t octets_per_sum = 252 * 16;  // no octet of the sum overflows
+    constexpr ptrdiff_t octets_per_sum = ptrdiff_t{252} * 16;  // no octet of the sum overflows
     const __m128i key = splat(wanted);
     uint64_t count = 0;
     while (to - from >= 64) {

@@ -23,8 +23,9 @@ using invctl::check_options;
 // NO_COLOR counts when it is set to anything but nothing.
 bool wants_colour()
 {
-    const char *refused = getenv("NO_COLOR");
-    const char *terminal = getenv("TERM");
+    // The command has one thread when it asks.
+    const char *refused = getenv("NO_COLOR");  // NOLINT(concurrency-mt-unsafe)
+    const char *terminal = getenv("TERM");     // NOLINT(concurrency-mt-unsafe)
     const bool is_dumb = terminal != nullptr && std::string(terminal) == "dumb";
     return isatty(STDOUT_FILENO) == 1 && !is_dumb && (refused == nullptr || *refused == '\0');
 }

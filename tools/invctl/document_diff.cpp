@@ -7,7 +7,6 @@ namespace
 
 using invctl::change_kind;
 using invctl::entity_change;
-using invctl::entity_match;
 using invctl::entity_records;
 using invctl::node_map;
 

@@ -1,9 +1,9 @@
 // Files that the catalogue names and nobody can read.
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 #include "catalogue_model.h"
@@ -57,7 +57,8 @@ void check_catalogued_file_missing(const catalogue_check &catalogue, finding_lis
             continue;
         if (const int error = trouble_with(unit.file))
             report_line(found, catalogue, *unit.line, unit.columns.file,
-                        printable(std::string(unit.columns.file).c_str()) + ": " + strerror(error))
+                        printable(std::string(unit.columns.file).c_str()) + ": " +
+                            std::generic_category().message(error))
                 .hint = ++missing <= most_looked_for ? hint_for(unit.file) : plain_hint;
     }
 }

@@ -8,6 +8,7 @@
 #include <memory>
 #include <sstream>
 #include <sys/stat.h>
+#include <system_error>
 #include <unordered_set>
 
 #include "catalogue_model.h"
@@ -53,7 +54,7 @@ std::unique_ptr<checked_document> read_document(const std::string &file, check_r
     auto document = std::make_unique<checked_document>();
     document->file = file;
     if (!read_octets(file, &document->octets)) {
-        result.troubles.push_back(file + ": " + strerror(errno));
+        result.troubles.push_back(file + ": " + std::generic_category().message(errno));
         return nullptr;
     }
     decode_document(*document);
@@ -157,7 +158,7 @@ void check_catalogue(const std::string &file, check_result &result)
 {
     std::string text;
     if (!read_octets(file, &text)) {
-        result.troubles.push_back(file + ": " + strerror(errno));
+        result.troubles.push_back(file + ": " + std::generic_category().message(errno));
         return;
     }
     catalogue_check catalogue;
