@@ -26,7 +26,7 @@ $(call packages,build check)
 $(call build,interface)
 endef
 
-.PHONY: help run test check bench bench-short regenerate regenerate-abi install packages format clean
+.PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
 .PHONY: check-clang check-asan check-tsan check-fuzz
 
@@ -102,6 +102,11 @@ bench-short: ## the same in a minute; fails when a ratio is over twice its targe
 	$(call packages,build bench)
 	$(call build,bench,--target inv_bench)
 	build/bench/bench/inv_bench --short
+
+bench-check: ## invctl check beside xmllint's validation of a faulty document of 10,000 entities
+	$(call packages,build test bench)
+	$(call build,bench,--target invctl inv_generate)
+	bench/check_against_xmllint.sh build/bench
 
 regenerate: ## rewrite the generated sources and documents
 	$(call packages,build test)

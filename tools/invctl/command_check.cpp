@@ -79,6 +79,13 @@ std::string known_code(const std::string &code)
     return code + " is no finding's code" + (near.empty() ? "" : "; did you mean " + near + "?");
 }
 
+// What cannot be asked is no folder: opening it says why.
+bool is_folder(const std::string &path)
+{
+    std::error_code unknown;
+    return std::filesystem::is_directory(path, unknown);
+}
+
 void add_output_options(CLI::App *check, check_options &options)
 {
     invctl::add_word_option(check, "--format", options.format, "How findings are printed; text if not given",
@@ -91,7 +98,8 @@ void add_output_options(CLI::App *check, check_options &options)
         ->type_name("CODE")
         ->check(CLI::Validator(known_code, ""));
     check->add_option("--max", options.max, "Findings to show at most, 100 if not given; 0 shows all")
-        ->type_name("COUNT");
+        ->type_name("COUNT")
+        ->check(CLI::Range(0, 1'000'000'000).description(""));
     check->add_flag("--quiet", options.quiet, "Print no findings; the exit status tells");
 }
 
@@ -103,7 +111,7 @@ namespace invctl
 runner declare_check(CLI::App *check)
 {
     auto options = std::make_shared<check_options>();
-    check->add_option("FILE", options->files, "Documents, or folders of them; - is standard input")
+    check->add_option("FILE", options->files, "Documents, or folders whose *.xml are; - is standard input")
         ->type_name("FILE");
     check
         ->add_option("--catalog", options->catalogue,
@@ -123,7 +131,7 @@ int run_check(const check_options &options)
     if (!options.catalogue.empty())
         check_catalogue(options.catalogue, result);
     for (const std::string &file : options.files)
-        std::filesystem::is_directory(file) ? check_folder(file, result) : check_file(file, result);
+        is_folder(file) ? check_folder(file, result) : check_file(file, result);
     const shown_findings shown = select(result, options);
     if (!options.quiet)
         write_out(printed(shown, options.format));

@@ -98,9 +98,38 @@ TEST_F(Check, missing_file_is_trouble_and_the_rest_is_checked)
     EXPECT_THAT(result.out, HasSubstr("integer-malformed"));
 }
 
+TEST_F(Check, a_path_that_cannot_be_asked_is_trouble_and_the_rest_is_checked)
+{
+    fs::create_symlink("loop", folder / "loop");
+    const outcome result =
+        run("check " + quoted(damaged({{"<size>2097152", "<size>b"}})) + " " + quoted(folder / "loop"));
+    EXPECT_EQ(result.exit_code, 2);
+    EXPECT_THAT(result.err, HasSubstr("loop: Too many levels of symbolic links"));
+    EXPECT_THAT(result.out, HasSubstr("integer-malformed"));
+}
+
+TEST_F(Check, a_folder_without_documents_is_trouble)
+{
+    fs::create_directories(folder / "nothing" / "below.xml");
+    const outcome result = run("check " + quoted(folder / "nothing"));
+    EXPECT_EQ(result.exit_code, 2);
+    EXPECT_THAT(result.err, HasSubstr("nothing: no documents (*.xml) in this folder"));
+}
+
+TEST_F(Check, a_schema_finding_hides_no_name_or_instance_that_is_used_twice)
+{
+    const fs::path file =
+        damaged({{"<size>2097152", "<size>b"}, {"xmlInstance=\"21\"", "xmlInstance=\"20\""}});
+    const outcome result = run("check " + quoted(file));
+    EXPECT_THAT(result.out, HasSubstr("integer-malformed"));
+    EXPECT_THAT(result.out, HasSubstr("instance-used-twice"));
+}
+
 TEST_F(Check, usage_is_trouble)
 {
     EXPECT_EQ(run("check").exit_code, 2);
+    EXPECT_EQ(run("check --max -1 " + quoted(sample)).exit_code, 2);
+    EXPECT_EQ(run("check --max 99999999999999999999999 " + quoted(sample)).exit_code, 2);
     const outcome code = run("check --code tokn-unknown " + quoted(sample));
     EXPECT_EQ(code.exit_code, 2);
     EXPECT_THAT(code.err, HasSubstr("did you mean token-unknown?"));

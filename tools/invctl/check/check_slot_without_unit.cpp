@@ -45,8 +45,9 @@ constexpr fitting fittings[] = {
 
 bool fits(const fitting &slot, const checked_document &unit)
 {
+    // A unit that cannot be read may be the one that is missed.
     if (unit.root == nullptr)
-        return false;
+        return true;
     if (unit.kind == slot.kind && slot.kind != document_kind::module)
         return true;
     const uint32_t subtype = static_cast<const BaseEntityType *>(unit.root)->subtype;

@@ -8,11 +8,11 @@ using enum severity;
 
 // In the order in which they run. The last column: see check::needs_clean_schema.
 constexpr check checks[] = {
-    {{"instance-used-twice", error, "Two entities have one xml instance"}, check_instance_used_twice, true},
+    {{"instance-used-twice", error, "Two entities have one xml instance"}, check_instance_used_twice},
     {{"instance-too-large", error, "An xml instance is out of range"}, check_instance_too_large},
     {{"subtype-of-other-type", error, "A subtype belongs to another entity type"},
      check_subtype_of_other_type},
-    {{"name-used-twice", warning, "Two entities under one other have one name"}, check_name_used_twice, true},
+    {{"name-used-twice", warning, "Two entities under one other have one name"}, check_name_used_twice},
     {{"text-too-long", warning, "A text is longer than the library's record keeps"}, check_text_too_long},
     {{"threshold-order", warning, "Thresholds are out of order"}, check_threshold_order},
     {{"power-budget", warning, "Power figures contradict each other"}, check_power_budget},

@@ -1,5 +1,6 @@
 // SARIF 2.1.0, the exchange format of static analysis: one run of one tool, rules by code.
 #include <cstring>
+#include <set>
 
 #include <nlohmann/json.hpp>
 
@@ -121,8 +122,11 @@ std::string findings_as_sarif(const shown_findings &shown)
     run["columnKind"] = "unicodeCodePoints";
     run["invocations"] = json::array({invocation_of(*shown.result)});
     run["artifacts"] = json::array();
+    // Each file once, however often it was named.
+    std::set<std::string> listed;
     for (const std::string &file : shown.result->files)
-        run["artifacts"].push_back({{"location", {{"uri", uri_of(file)}}}});
+        if (listed.insert(file).second)
+            run["artifacts"].push_back({{"location", {{"uri", uri_of(file)}}}});
     run["results"] = json::array();
     for (const finding *each : shown.findings)
         run["results"].push_back(result_of(*each));

@@ -144,11 +144,18 @@ void check_folder(const std::string &folder, check_result &result)
 {
     std::vector<std::string> files;
     std::error_code error;
-    for (const auto &entry : std::filesystem::directory_iterator(folder, error))
-        if (entry.path().extension() == ".xml")
-            files.push_back(entry.path().string());
+    std::filesystem::directory_iterator entries(folder, error);
+    for (; !error && entries != std::filesystem::directory_iterator(); entries.increment(error)) {
+        // A pipe would keep the check waiting; what cannot be asked is told of when it is opened.
+        std::error_code unknown;
+        bool may_be_read = entries->is_regular_file(unknown) || unknown;
+        if (entries->path().extension() == ".xml" && may_be_read)
+            files.push_back(entries->path().string());
+    }
     if (error)
         result.troubles.push_back(folder + ": " + error.message());
+    else if (files.empty())
+        result.troubles.push_back(folder + ": no documents (*.xml) in this folder");
     std::sort(files.begin(), files.end());
     for (const std::string &file : files)
         check_file(file, result);
