@@ -41,14 +41,12 @@ least() {
 
 size=$(wc -c <"$folder/faulty.xml")
 faults=$(cat "$folder/faults")
-found=$("$build/tools/invctl/invctl" check --max 1 "$folder/faulty.xml" | tail -1) || true
-case $found in
-*"$faults findings"*) ;;
-*) echo "invctl does not find the $faults faults: $found" >&2; exit 1 ;;
-esac
+# Findings against the schema name its status; the document repeats some xml instances besides.
+found=$("$build/tools/invctl/invctl" check --max 0 "$folder/faulty.xml" | grep -c '(status -') || true
+[ "$found" -eq "$faults" ] || { echo "invctl finds $found of $faults faults" >&2; exit 1; }
 invctl=$(least "$build/tools/invctl/invctl" check --max 0 "$folder/faulty.xml")
 xmllint=$(least xmllint --noout --schema "$top/schema/OrvelianInventory.xsd" "$folder/faulty.xml")
-echo "$size octets, $faults faults; invctl: $found"
+echo "$size octets, $faults faults, all found"
 echo "invctl check      $invctl ms"
 echo "xmllint --schema  $xmllint ms"
 [ "$invctl" -lt $((3 * xmllint)) ] || { echo "invctl takes three times as long or more" >&2; exit 1; }
