@@ -57,6 +57,12 @@ inline octet_marks beyond_ascii(const octet_block &block)
     return block.octets;
 }
 
+// What follows the first octet of a UTF-8 character: as signed numbers the least ones.
+inline octet_marks continuation_marks(const octet_block &block)
+{
+    return _mm_cmplt_epi8(block.octets, splat(static_cast<char>(0xC0)));
+}
+
 // Control octets and those beyond ASCII: as signed numbers they all lie below the blank. The sign counts
 // only, so that one saturating difference will do.
 inline octet_marks not_printable(const octet_block &block)
@@ -136,6 +142,11 @@ inline octet_marks within_letters(const octet_block &block)
 inline octet_marks beyond_ascii(const octet_block &block)
 {
     return block.octets & top_bits;
+}
+
+inline octet_marks continuation_marks(const octet_block &block)
+{
+    return block.octets & ~(block.octets << 1) & top_bits;
 }
 
 inline octet_marks not_printable(const octet_block &block)
@@ -244,6 +255,9 @@ inline const char *skip_to_mark(const char *at, char mark)
 }
 
 uint64_t count_octets(const char *from, const char *to, char wanted);
+
+// Of UTF-8: octets that begin one.
+uint64_t count_characters(const char *from, const char *to);
 
 }  // namespace inv::xml
 

@@ -28,12 +28,6 @@ uint64_t count_line_ends(const char *from, const char *to)
     return count;
 }
 
-uint64_t count_characters(const char *from, const char *to)
-{
-    return static_cast<uint64_t>(
-        std::count_if(from, to, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
-}
-
 // Where the line of `at` starts, or null when that is before `from`.
 const char *line_start(const char *from, const char *at)
 {

@@ -14,7 +14,7 @@ scan_functions usual_scan_functions()
 {
     using namespace inv::xml;
     return {"usual",    octet_block::size, skip_blanks,  skip_white_space, skip_name,
-            skip_value, skip_text,         skip_to_mark, count_octets};
+            skip_value, skip_text,         skip_to_mark, count_octets,     count_characters};
 }
 
 namespace
@@ -135,6 +135,25 @@ TEST_P(XmlScan, octets_are_counted_between_any_two_places)
             ASSERT_EQ(GetParam().count_octets(start, end, wanted),
                       static_cast<uint64_t>(std::count(start, end, wanted)));
         }
+    }
+}
+
+TEST_P(XmlScan, characters_are_counted_by_the_octets_that_begin_one)
+{
+    random_source random{3};
+    for (int i = 0; i < 2000; ++i) {
+        std::string text = one_in(random, 50) ? std::string(9000, '\x80') : std::string();
+        for (size_t octets = draw_below(random, 300); octets > 0; --octets)
+            text += static_cast<char>(draw_below(random, 256));
+        const std::vector<char> data(text.begin(), text.end());
+        const size_t from = draw_below(random, data.size() + 1);
+        const char *start = data.data() + from;
+        const char *end = start + draw_below(random, data.size() - from + 1);
+        const auto beginnings = std::count_if(start, end, [](char c) {
+            auto octet = static_cast<unsigned char>(c);
+            return octet < 0x80 || octet > 0xBF;
+        });
+        ASSERT_EQ(GetParam().count_characters(start, end), static_cast<uint64_t>(beginnings));
     }
 }
 

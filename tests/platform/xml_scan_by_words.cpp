@@ -10,5 +10,5 @@ scan_functions scan_functions_by_words()
 {
     using namespace inv::xml_by_words;
     return {"words",    octet_block::size, skip_blanks,  skip_white_space, skip_name,
-            skip_value, skip_text,         skip_to_mark, count_octets};
+            skip_value, skip_text,         skip_to_mark, count_octets,     count_characters};
 }

@@ -15,6 +15,7 @@ struct scan_functions {
     const char *(*skip_text)(const char *at);
     const char *(*skip_to_mark)(const char *at, char mark);
     uint64_t (*count_octets)(const char *from, const char *to, char wanted);
+    uint64_t (*count_characters)(const char *from, const char *to);
 };
 
 // As the target has them, and with 64-bit words.
