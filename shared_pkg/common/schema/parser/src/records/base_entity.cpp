@@ -7,6 +7,7 @@
 #include "inv_parser/record_builders.h"
 #include "inv_parser/release.h"
 #include "tree/current_file.h"
+#include "tree/growth.h"
 
 using namespace inv;
 
@@ -180,6 +181,19 @@ void fill_ports(sch_base_entity_type *record, const BaseEntityType *from)
     parser_retrieve_base_pcie_port_data_list(&record->pcie_port_list, &from->pciePort, record);
 }
 
+// Decoded records lie one after the other, each followed by its texts, and the builders take them about in
+// that order. What the next two or three hold is asked for while this one is built: it was written long ago,
+// and waiting for it would take as long as building. Asking for what is no memory does no harm.
+void prefetch_what_follows(const BaseEntityType *from)
+{
+    constexpr uintptr_t usual_texts = 360;
+    constexpr uintptr_t ahead = 1920;
+    constexpr uintptr_t cache_line = 64;
+    const uintptr_t next = reinterpret_cast<uintptr_t>(from) + sizeof *from + usual_texts;
+    for (uintptr_t i = 0; i < ahead; i += cache_line)
+        __builtin_prefetch(reinterpret_cast<const void *>(next + i));
+}
+
 }  // namespace
 
 void parser_convert_subtype(sch_base_entity_type *record, const BaseEntityType *from)
@@ -197,6 +211,8 @@ uint32_t parser_retrieve_base_entity_data(sch_base_entity_type *record, const Ba
         trace<msg::base_entity_null>();
         return 0;
     }
+    prefetch_what_follows(from);
+    expect_growth(record);
     fill_identity(record, from);
     fill_driver_and_states(record, from);
     fill_traits(record, from);

@@ -8,12 +8,16 @@
 #include "tree/entity_walk.h"
 #include "tree/pointer_hash.h"
 
+#include <algorithm>
+#include <bit>
+
 using namespace inv;
 
 namespace
 {
 
-constexpr size_t first_capacity = 256;
+constexpr size_t least_capacity = 256;
+constexpr size_t greatest_first_capacity = size_t{1} << 20;
 
 // A record of the tree. Free while node is null. A node cannot be its own child: last_child == node marks
 // a record that occurs more than once.
@@ -24,9 +28,10 @@ struct growth_slot {
 
 // Open addressing; capacity is a power of two. root is null while no tree is shadowed.
 struct growth_table {
-    bool has_scope;
+    size_t first_capacity;  // 0: no scope
     eid_chain_node *root;
     growth_slot *slots;
+    growth_slot *last_parent;  // where the last entity was hung; most have a sibling in front of them
     size_t capacity;
     size_t used;
 };
@@ -36,7 +41,7 @@ growth_table growth;
 void drop_table()
 {
     memory::release(growth.slots);
-    growth = {growth.has_scope, nullptr, nullptr, 0, 0};
+    growth = {growth.first_capacity, nullptr, nullptr, nullptr, 0, 0};
 }
 
 bool is_ambiguous(const growth_slot *slot)
@@ -44,14 +49,28 @@ bool is_ambiguous(const growth_slot *slot)
     return slot->last_child == slot->node;
 }
 
+size_t first_place_of(const sch_base_entity_type *record)
+{
+    return hash_of_pointer(record, 0) & (growth.capacity - 1);
+}
+
 // The slot of the record, or the free one where it belongs.
 growth_slot *find_slot(const sch_base_entity_type *record)
 {
     size_t mask = growth.capacity - 1;
-    size_t at = hash_of_pointer(record, 0) & mask;
+    size_t at = first_place_of(record);
     while (growth.slots[at].node != nullptr && growth.slots[at].node->record != record)
         at = (at + 1) & mask;
     return &growth.slots[at];
+}
+
+growth_slot *find_parent_slot(const sch_base_entity_type *record)
+{
+    growth_slot *last = growth.last_parent;
+    if (last == nullptr || last->node->record != record)
+        last = find_slot(record);
+    growth.last_parent = last->node == nullptr ? nullptr : last;
+    return last;
 }
 
 bool widen(size_t capacity)
@@ -62,6 +81,7 @@ bool widen(size_t capacity)
     growth_slot *old = growth.slots;
     growth_slot *end = old + growth.capacity;
     growth.slots = slots;
+    growth.last_parent = nullptr;
     growth.capacity = capacity;
     for (growth_slot *each = old; each != end; ++each)
         if (each->node != nullptr)
@@ -74,7 +94,7 @@ bool widen(size_t capacity)
 bool enter(eid_chain_node *node)
 {
     if ((growth.used + 1) * 4 > growth.capacity * 3 &&
-        !widen(growth.capacity == 0 ? first_capacity : growth.capacity * 2))
+        !widen(growth.capacity == 0 ? growth.first_capacity : growth.capacity * 2))
         return false;
     growth_slot *slot = find_slot(node->record);
     if (slot->node == nullptr) {
@@ -89,7 +109,7 @@ bool enter(eid_chain_node *node)
 void shadow_new_tree(eid_chain_node *root)
 {
     drop_table();
-    if (!growth.has_scope)
+    if (growth.first_capacity == 0)
         return;
     growth.root = root;
     if (!enter(root))
@@ -126,16 +146,24 @@ void make_root(sch_base_entity_type *record, sch_base_entity_type *parent_record
 
 }  // namespace
 
-tree_growth_scope::tree_growth_scope() noexcept
+tree_growth_scope::tree_growth_scope(size_t expected_entities) noexcept
 {
     drop_table();
-    growth.has_scope = true;
+    // A quarter of the slots stays free.
+    const size_t expected = std::clamp(expected_entities, least_capacity / 2, greatest_first_capacity / 2);
+    growth.first_capacity = std::bit_ceil(expected + expected / 3);
 }
 
 tree_growth_scope::~tree_growth_scope()
 {
     drop_table();
-    growth.has_scope = false;
+    growth.first_capacity = 0;
+}
+
+void inv::expect_growth(const sch_base_entity_type *record) noexcept
+{
+    if (growth.root != nullptr)
+        __builtin_prefetch(&growth.slots[first_place_of(record)], 1);
 }
 
 void parser_update_eid_chain(sch_base_entity_type *record, sch_base_entity_type *parent_record)
@@ -146,7 +174,7 @@ void parser_update_eid_chain(sch_base_entity_type *record, sch_base_entity_type 
         return;
     }
     bool is_shadowed = growth.root == root_eid;
-    growth_slot *slot = is_shadowed ? find_slot(parent_record) : nullptr;
+    growth_slot *slot = is_shadowed ? find_parent_slot(parent_record) : nullptr;
     if (slot != nullptr && slot->node != nullptr && is_ambiguous(slot))
         slot = nullptr;
     eid_chain_node *parent = slot != nullptr ? slot->node : parser_find_parent_node(parent_record, root_eid);

@@ -8,6 +8,10 @@
 #ifndef TREE_GROWTH_H
 #define TREE_GROWTH_H
 
+#include "inv_parser/base_entity.h"
+
+#include <stddef.h>
+
 namespace inv
 {
 
@@ -15,11 +19,15 @@ namespace inv
 class tree_growth_scope
 {
 public:
-    tree_growth_scope() noexcept;
+    // The number is a hint: what memory is taken at first.
+    explicit tree_growth_scope(size_t expected_entities = 0) noexcept;
     ~tree_growth_scope();
     tree_growth_scope(const tree_growth_scope &) = delete;
     tree_growth_scope &operator=(const tree_growth_scope &) = delete;
 };
+
+// A hint that an entity will be hung into the tree soon: its place in the table is then at hand.
+void expect_growth(const sch_base_entity_type *record) noexcept;
 
 }  // namespace inv
 
