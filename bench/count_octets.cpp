@@ -6,8 +6,11 @@
 
 #include "inv_platform/xml_runtime.h"
 
+#include "heap.h"
+
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 
 namespace
 {
@@ -34,6 +37,10 @@ void __real_rtxMemHeapFreePtr(xb_context *ctx, void *block);
 xb_data_node *__real_rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data);
 int32_t __real_rtXmlpDecXmlStr(xb_context *ctx, const char **text);
 int32_t __real_rtXmlpDecDynUTF8Str(xb_context *ctx, char **text);
+bool __real__ZN3inv3xml11store_valueERNS0_4heapERK12xb_plain_rowSt17basic_string_viewIcSt11char_traitsIcEEbPv(
+    inv::xml::heap &memory, const xb_plain_row &row, std::string_view text, bool is_padded, void *to);
+xb_data_node *__real__ZN3inv3xml11heap_appendERNS0_4heapER12xb_data_listPv(inv::xml::heap &from,
+                                                                           xb_data_list &list, void *data);
 
 // inv::record_request(size_t), seen from its callers.
 void *__wrap__ZN3inv14record_requestEm(std::size_t size)
@@ -77,6 +84,28 @@ int32_t __wrap_rtXmlpDecDynUTF8Str(xb_context *ctx, char **text)
     if (status >= 0)
         count_text(*text);
     return status;
+}
+// inv::xml::store_value(): plain values go straight from the document into records; texts and octets of any
+// length go into the heap.
+bool __wrap__ZN3inv3xml11store_valueERNS0_4heapERK12xb_plain_rowSt17basic_string_viewIcSt11char_traitsIcEEbPv(
+    inv::xml::heap &memory, const xb_plain_row &row, std::string_view text, bool is_padded, void *to)
+{
+    const bool is_stored =
+        __real__ZN3inv3xml11store_valueERNS0_4heapERK12xb_plain_rowSt17basic_string_viewIcSt11char_traitsIcEEbPv(
+            memory, row, text, is_padded, to);
+    if (is_stored && row.kind == XB_PLAIN_TEXT)
+        decoded_octets += text.size() + 1;
+    if (is_stored && row.kind == XB_PLAIN_OCTETS)
+        decoded_octets += text.size() / 2;
+    return is_stored;
+}
+
+// inv::xml::heap_append(): beside rtxDListAppend() plain texts of a list are appended by it.
+xb_data_node *__wrap__ZN3inv3xml11heap_appendERNS0_4heapER12xb_data_listPv(inv::xml::heap &from,
+                                                                           xb_data_list &list, void *data)
+{
+    decoded_octets += sizeof(xb_data_node) + std::strlen(static_cast<const char *>(data)) + 1;
+    return __real__ZN3inv3xml11heap_appendERNS0_4heapER12xb_data_listPv(from, list, data);
 }
 }
 

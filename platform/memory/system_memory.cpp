@@ -25,9 +25,6 @@ void release(void *block)
 namespace
 {
 
-// What the system's larger pages hold, where it has them; elsewhere aligning to it does no harm.
-constexpr size_t large_page = size_t{2} << 20;
-
 void *map_pages(size_t size)
 {
     void *pages = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
@@ -54,13 +51,18 @@ void *map_large_pages(size_t size)
 
 void *map(size_t size)
 {
-    bool is_large = size >= 2 * large_page && size % large_page == 0;
-    return is_large ? map_large_pages(size) : map_pages(size);
+    return size % large_page == 0 ? map_large_pages(size) : map_pages(size);
 }
 
 void unmap(void *pages, size_t size)
 {
     munmap(pages, size);
+}
+
+void discard(void *pages, size_t size)
+{
+    // Where it cannot be had early it goes with the mapping.
+    (void)madvise(pages, size, MADV_DONTNEED);
 }
 
 }  // namespace inv::memory

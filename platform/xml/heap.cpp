@@ -17,13 +17,16 @@ namespace
 
 constexpr size_t greatest_alignment = 16;
 constexpr size_t first_chunk_size = 4096;
-constexpr size_t greatest_chunk_size = size_t{4} << 20;
-// Chunks double up to this size; whoever needs more than those gets the greatest, which take far fewer
-// page faults (system_memory.h).
+// Chunks double up to this size.
 constexpr size_t last_doubled_chunk = size_t{512} << 10;
-
-// From here on chunks are whole pages of the system's.
+// From here on chunks are pages of the system's.
 constexpr size_t least_mapped_chunk = size_t{128} << 10;
+
+// What fills so much of a large page is given it: the pages go back with the context.
+constexpr size_t least_of_large_page = memory::large_page / 4;
+constexpr size_t greatest_chunk = 16 * memory::large_page;
+// With so much in use one more large page is little.
+constexpr size_t least_of_unknown = 4 * memory::large_page;
 
 constexpr size_t aligned(size_t size, size_t alignment)
 {
@@ -35,28 +38,28 @@ char *octets_of(heap_chunk *chunk)
     return reinterpret_cast<char *>(chunk) + sizeof(heap_chunk);
 }
 
-// Chunks of the regular sizes only: what a single request has for itself goes back early at times.
-bool is_mapped(size_t capacity)
+bool is_within(const heap_chunk *chunk, const void *place)
 {
-    const size_t size = sizeof(heap_chunk) + capacity;
-    return size >= least_mapped_chunk && size <= greatest_chunk_size && std::has_single_bit(size);
+    const auto begin = reinterpret_cast<uintptr_t>(chunk);
+    const auto at = reinterpret_cast<uintptr_t>(place);
+    return at > begin && at < begin + sizeof(heap_chunk) + chunk->used;
 }
 
 void release_chunk(heap_chunk *chunk)
 {
-    if (is_mapped(chunk->capacity))
-        memory::unmap(chunk, sizeof(heap_chunk) + chunk->capacity);
+    if (chunk->mapped_size > 0)
+        memory::unmap(chunk, chunk->mapped_size);
     else
         memory::release(chunk);
 }
 
-heap_chunk *new_chunk(size_t capacity)
+heap_chunk *new_chunk(size_t capacity, bool is_mapped)
 {
     const size_t size = sizeof(heap_chunk) + capacity;
-    void *block = is_mapped(capacity) ? memory::map(size) : memory::request(size);
+    void *block = is_mapped ? memory::map(size) : memory::request(size);
     if (block == nullptr)
         return nullptr;
-    return new (block) heap_chunk{nullptr, capacity, 0};
+    return new (block) heap_chunk{nullptr, capacity, 0, is_mapped ? size : 0};
 }
 
 void push(heap_chunk *&list, heap_chunk *chunk)
@@ -67,21 +70,40 @@ void push(heap_chunk *&list, heap_chunk *chunk)
 
 void *allocate_own_chunk(heap &from, size_t size)
 {
-    heap_chunk *chunk = new_chunk(size);
+    heap_chunk *chunk = new_chunk(size, false);
     if (chunk == nullptr)
         return nullptr;
     push(from.own_chunks, chunk);
     return octets_of(chunk);
 }
 
-bool add_chunk(heap &from)
+// What the rest of the document will ask for; to begin with about what its text takes.
+size_t expected_rest(const heap &of)
 {
-    size_t size = std::max(from.next_chunk_size, first_chunk_size);
-    heap_chunk *chunk = new_chunk(size - sizeof(heap_chunk));
+    if (of.document == nullptr || of.document->read >= of.document->size)
+        return 0;
+    const auto rest = static_cast<double>(of.document->size - of.document->read);
+    const auto per_octet = static_cast<double>(of.reserved) / static_cast<double>(of.document->read + 1);
+    const double expected = of.document->read < of.document->size / 8 ? rest : rest * per_octet;
+    return static_cast<size_t>(std::min(expected, static_cast<double>(greatest_chunk)));
+}
+
+size_t next_chunk_size(const heap &of)
+{
+    const size_t doubled = std::clamp(std::bit_ceil(of.reserved + 1), first_chunk_size, last_doubled_chunk);
+    const bool is_unknown = of.document == nullptr || of.document->size == 0;
+    if (is_unknown && of.reserved >= least_of_unknown)
+        return memory::large_page;
+    return std::max(doubled, memory::large_pages_for(expected_rest(of), least_of_large_page));
+}
+
+bool add_chunk(heap &from, size_t size)
+{
+    heap_chunk *chunk = new_chunk(size - sizeof(heap_chunk), size >= least_mapped_chunk);
     if (chunk == nullptr)
         return false;
     push(from.newest, chunk);
-    from.next_chunk_size = size < last_doubled_chunk ? size * 2 : greatest_chunk_size;
+    from.reserved += size;
     return true;
 }
 
@@ -105,16 +127,17 @@ void *allocate(heap &from, size_t size, size_t alignment)
     if (size > static_cast<size_t>(PTRDIFF_MAX) - sizeof(heap_chunk) - greatest_alignment)
         return nullptr;
     size = std::max(size, size_t{1});
-    // A quarter of a chunk at most is lost when a request does not fit its rest.
-    if (size > std::max(from.next_chunk_size, first_chunk_size) / 4) {
-        void *own = allocate_own_chunk(from, size);
-        if (own != nullptr)
-            from.last = own;
-        return own;
-    }
     size_t start = from.newest == nullptr ? 0 : aligned(from.newest->used, alignment);
     if (from.newest == nullptr || start > from.newest->capacity || size > from.newest->capacity - start) {
-        if (!add_chunk(from))
+        const size_t chunk_size = next_chunk_size(from);
+        // A quarter of a chunk at most is lost when a request does not fit its rest.
+        if (size > chunk_size / 4) {
+            void *own = allocate_own_chunk(from, size);
+            if (own != nullptr)
+                from.last = own;
+            return own;
+        }
+        if (!add_chunk(from, chunk_size))
             return nullptr;
         start = 0;
     }
@@ -167,6 +190,23 @@ void heap_take_back(heap &from, void *ptr)
     from.newest->used = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));
 }
 
+const void *heap_forget(const heap &of, const void *from, const void *to)
+{
+    const heap_chunk *chunk = of.newest;
+    while (chunk != nullptr && !(is_within(chunk, from) && is_within(chunk, to)))
+        chunk = chunk->older;
+    if (chunk == nullptr || chunk->mapped_size == 0)
+        return to;
+    const size_t unit =
+        chunk->mapped_size % memory::large_page == 0 ? memory::large_page : least_mapped_chunk;
+    const uintptr_t begin = aligned(reinterpret_cast<uintptr_t>(from), unit);
+    const uintptr_t end = reinterpret_cast<uintptr_t>(to) & ~(unit - 1);
+    if (begin >= end)
+        return from;
+    memory::discard(reinterpret_cast<void *>(begin), end - begin);
+    return reinterpret_cast<const void *>(end);
+}
+
 void heap_release(heap &from)
 {
     release_chunks(from.newest);
@@ -186,6 +226,11 @@ void *rtxMemHeapAlloc(xb_context *ctx, size_t size)
 void rtxMemHeapFreePtr(xb_context *ctx, void *ptr)
 {
     heap_take_back(ctx->state->memory, ptr);
+}
+
+const void *rtxMemHeapForget(xb_context *ctx, const void *from, const void *to)
+{
+    return heap_forget(ctx->state->memory, from, to);
 }
 
 xb_data_node *rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data)

@@ -5,6 +5,7 @@
 #include "inv_platform/xml_runtime.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 
@@ -15,12 +16,20 @@ struct alignas(16) heap_chunk {
     heap_chunk *older;
     size_t capacity;
     size_t used;
+    size_t mapped_size;  // 0: from the process heap
+};
+
+// How far a document has been read; chunks are chosen by what its rest will ask for.
+struct document_progress {
+    uint64_t size = 0;  // 0: not known
+    uint64_t read = 0;
 };
 
 struct heap {
     heap_chunk *newest = nullptr;      // chunk that small requests are cut from
     heap_chunk *own_chunks = nullptr;  // big requests, one chunk each
-    size_t next_chunk_size = 0;
+    size_t reserved = 0;               // octets of the regular chunks
+    const document_progress *document = nullptr;
     void *last = nullptr;  // newest allocation while it can still be taken back
 };
 
@@ -53,6 +62,9 @@ xb_data_node *heap_append(heap &from, xb_data_list &list, void *data);
 
 // Takes the newest allocation back; any other pointer is left alone.
 void heap_take_back(heap &from, void *ptr);
+
+// Gives whole pages between the two back; returns where what is left begins.
+const void *heap_forget(const heap &of, const void *from, const void *to);
 
 void heap_release(heap &from);
 

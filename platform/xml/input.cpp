@@ -16,16 +16,18 @@ namespace inv::xml
 ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error)
 {
     if (from.descriptor < 0) {
-        size_t taken = std::min(size, from.octet_count - from.taken);
+        const size_t taken = std::min<uint64_t>(size, from.progress.size - from.progress.read);
         if (taken != 0)
-            memcpy(buffer, from.octets + from.taken, taken);
-        from.taken += taken;
+            memcpy(buffer, from.octets + from.progress.read, taken);
+        from.progress.read += taken;
         return static_cast<ptrdiff_t>(taken);
     }
     for (;;) {
         ssize_t taken = read(from.descriptor, buffer, size);
-        if (taken >= 0)
+        if (taken >= 0) {
+            from.progress.read += static_cast<size_t>(taken);
             return taken;
+        }
         if (errno != EINTR) {
             *error = errno;
             return -1;
@@ -40,7 +42,7 @@ bool input_can_rewind(const input &from)
 
 bool input_rewind(input &from)
 {
-    from.taken = 0;
+    from.progress.read = 0;
     return from.descriptor < 0 || lseek(from.descriptor, 0, SEEK_SET) == 0;
 }
 
@@ -56,18 +58,21 @@ namespace
 
 // Returns the descriptor, or -1 with the reason in errno. Folders are refused here because
 // reading them fails only later and with less to say.
-int open_for_reading(const char *file_name)
+int open_for_reading(const char *file_name, uint64_t *size)
 {
     int descriptor;
     do {
         descriptor = open(file_name, O_RDONLY | O_CLOEXEC);
     } while (descriptor < 0 && errno == EINTR);
     struct stat status;
-    if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)) {
+    if (descriptor < 0 || fstat(descriptor, &status) != 0)
+        return descriptor;
+    if (S_ISDIR(status.st_mode)) {
         close(descriptor);
         errno = EISDIR;
         return -1;
     }
+    *size = S_ISREG(status.st_mode) ? static_cast<uint64_t>(status.st_size) : 0;
     return descriptor;
 }
 
@@ -80,7 +85,8 @@ int32_t rtxStreamFileCreateReader(xb_context *ctx, const char *file_name)
 {
     rtxStreamClose(ctx);
     const char *name = file_name == nullptr ? "" : file_name;
-    int descriptor = open_for_reading(name);
+    uint64_t size = 0;
+    int descriptor = open_for_reading(name, &size);
     if (descriptor < 0) {
         int32_t status = errno == ENOMEM ? XB_E_NO_MEMORY : XB_E_FILE_OPEN;
         char text[128];
@@ -91,6 +97,8 @@ int32_t rtxStreamFileCreateReader(xb_context *ctx, const char *file_name)
     }
     ctx->state->in.open = true;
     ctx->state->in.descriptor = descriptor;
+    ctx->state->in.progress.size = size;
+    ctx->state->memory.document = &ctx->state->in.progress;
     return XB_OK;
 }
 
@@ -99,7 +107,8 @@ int32_t rtxStreamMemoryCreateReader(xb_context *ctx, const void *data, size_t si
     rtxStreamClose(ctx);
     ctx->state->in.open = true;
     ctx->state->in.octets = static_cast<const char *>(data);
-    ctx->state->in.octet_count = data == nullptr ? 0 : size;
+    ctx->state->in.progress.size = data == nullptr ? 0 : size;
+    ctx->state->memory.document = &ctx->state->in.progress;
     return XB_OK;
 }
 

@@ -2,6 +2,8 @@
 #ifndef PLATFORM_XML_INPUT_H
 #define PLATFORM_XML_INPUT_H
 
+#include "heap.h"
+
 #include <cstddef>
 
 namespace inv::xml
@@ -11,8 +13,7 @@ struct input {
     bool open = false;
     int descriptor = -1;  // -1: octets in memory
     const char *octets = nullptr;
-    size_t octet_count = 0;
-    size_t taken = 0;  // of the octets in memory
+    document_progress progress;
 };
 
 // Reads up to size octets; 0 at the end, -1 on failure with the system's error in *error.

@@ -3,6 +3,8 @@
 
 #include <cstring>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 namespace
 {
@@ -122,6 +124,74 @@ TEST(XmlHeap, a_failed_append_leaves_the_list_alone)
     EXPECT_EQ(rtxDListAppend(&context.ctx, &list, nullptr), nullptr);
     EXPECT_EQ(list.count, 0U);
     EXPECT_EQ(list.head, nullptr);
+}
+
+// What a heap maps for `count` requests of 1000 octets when the document behind it is so long.
+uint64_t mapped_for(uint64_t document_size, size_t count)
+{
+    const std::string document(document_size, ' ');
+    heap_context context;
+    const uint64_t mapped_before = counting_memory::mapped_octets();
+    rtxStreamMemoryCreateReader(&context.ctx, document.data(), document.size());
+    for (size_t i = 0; i < count; ++i)
+        EXPECT_NE(rtxMemHeapAlloc(&context.ctx, 1000), nullptr);
+    return counting_memory::mapped_octets() - mapped_before;
+}
+
+TEST(XmlHeap, a_document_that_fills_a_quarter_of_a_large_page_is_given_one)
+{
+    constexpr uint64_t kibi = 1024;
+    EXPECT_EQ(mapped_for(512 * kibi - 1, 1), 0U);
+    EXPECT_EQ(mapped_for(512 * kibi, 1), 2048 * kibi);
+    EXPECT_EQ(mapped_for(2560 * kibi - 1, 1), 2048 * kibi);
+    EXPECT_EQ(mapped_for(2560 * kibi, 1), 4096 * kibi);
+    EXPECT_EQ(mapped_for(100 * 1024 * kibi, 1), 32 * 1024 * kibi) << "no more than so much at a time";
+}
+
+TEST(XmlHeap, without_a_document_chunks_double_and_large_pages_follow_many_of_them)
+{
+    EXPECT_EQ(mapped_for(0, 1), 0U);
+    EXPECT_EQ(mapped_for(0, 200), 128U * 1024);
+    EXPECT_EQ(mapped_for(0, 10000), (128U + 256 + 16 * 512) * 1024 + (2048U * 1024));
+}
+
+TEST(XmlHeap, whole_pages_of_what_is_forgotten_go_back_and_the_rest_stays)
+{
+    constexpr size_t page = size_t{2} << 20;
+    const std::string document(4 * page, ' ');
+    heap_context context;
+    rtxStreamMemoryCreateReader(&context.ctx, document.data(), document.size());
+    std::vector<unsigned char *> blocks;
+    for (size_t i = 0; i < 4 * page / 1024 - 8; ++i) {
+        blocks.push_back(static_cast<unsigned char *>(rtxMemHeapAlloc(&context.ctx, 1024)));
+        memset(blocks.back(), 0x5A, 1024);
+    }
+    const unsigned char *from = blocks[10];
+    EXPECT_EQ(rtxMemHeapForget(&context.ctx, from, blocks[100]), from) << "less than a page is kept";
+    const unsigned char *to = blocks[5000];
+    const auto *left = static_cast<const unsigned char *>(rtxMemHeapForget(&context.ctx, from, to));
+    EXPECT_EQ(reinterpret_cast<uintptr_t>(left) % page, 0U);
+    EXPECT_LE(left, to);
+    EXPECT_GT(left + page, to);
+    EXPECT_EQ(*(left - 1), 0xDD) << "as tests mark what went back";
+    EXPECT_EQ(*left, 0x5A);
+    EXPECT_EQ(*from, 0x5A) << "the page has what came before, too";
+    EXPECT_EQ(rtxMemHeapForget(&context.ctx, left, to), left);
+}
+
+TEST(XmlHeap, what_does_not_lie_in_one_chunk_is_kept)
+{
+    heap_context context;
+    char other = 0;
+    auto *first = static_cast<char *>(rtxMemHeapAlloc(&context.ctx, 1000));
+    char *last = first;
+    for (int i = 0; i < 2000; ++i)
+        last = static_cast<char *>(rtxMemHeapAlloc(&context.ctx, 1000));
+    memset(first, 0x5A, 1000);
+    EXPECT_EQ(rtxMemHeapForget(&context.ctx, first, last), last);
+    EXPECT_EQ(rtxMemHeapForget(&context.ctx, first, &other), &other);
+    EXPECT_EQ(rtxMemHeapForget(&context.ctx, last, last), last);
+    EXPECT_EQ(first[999], 0x5A);
 }
 
 TEST(XmlContext, init_without_memory_fails_and_may_be_freed)

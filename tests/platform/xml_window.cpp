@@ -52,7 +52,7 @@ struct reading {
     {
         in.open = true;
         in.octets = text.data();
-        in.octet_count = text.size();
+        in.progress.size = text.size();
         EXPECT_TRUE(open_window(view, in, chunk_size));
     }
     ~reading()

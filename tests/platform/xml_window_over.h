@@ -14,7 +14,7 @@ struct lexing {
     {
         in.open = true;
         in.octets = text.data();
-        in.octet_count = text.size();
+        in.progress.size = text.size();
         inv::xml::open_window(lex.view, in, text.size() + 1);
         at = lex.view.octets;
         inv::xml::refill(lex.view, at);

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <cstring>
 #include <malloc.h>
 #include <mutex>
 #include <sys/mman.h>
@@ -15,6 +16,7 @@ std::atomic<uint64_t> request_count;
 std::atomic<uint64_t> live_count;
 std::atomic<uint64_t> heap;
 std::atomic<uint64_t> mapped;
+std::atomic<uint64_t> discarded;
 std::atomic<uint64_t> fail_number;
 std::atomic<bool> fail_all_after;
 std::atomic<bool> has_failed;
@@ -65,6 +67,11 @@ uint64_t mapped_octets()
     return mapped;
 }
 
+uint64_t discarded_octets()
+{
+    return discarded;
+}
+
 void fail_at(uint64_t n, bool all_after)
 {
     request_count = 0;
@@ -108,6 +115,7 @@ void release_left()
 void reset()
 {
     fail_at(0);
+    discarded = 0;
 }
 
 }  // namespace counting_memory
@@ -166,6 +174,13 @@ void unmap(void *pages, size_t size)
     --live_count;
     mapped -= size;
     munmap(pages, size);
+}
+
+void discard(void *pages, size_t size)
+{
+    // Whoever still reads there shall notice.
+    memset(pages, 0xDD, size);
+    discarded += size;
 }
 
 }  // namespace inv::memory

@@ -22,6 +22,9 @@ uint64_t heap_octets();
 // Octets of live mappings.
 uint64_t mapped_octets();
 
+// Octets of mappings that were given back while they stayed mapped, since the last reset().
+uint64_t discarded_octets();
+
 // The n-th request from now on fails (1: the next). With `all_after` every later one fails too.
 // 0 takes the order back.
 void fail_at(uint64_t n, bool all_after = false);

@@ -114,21 +114,79 @@ TEST_F(FileMemory, after_a_load_records_come_from_the_heap_again)
     record_free(record);
 }
 
-TEST_F(FileMemory, chunks_double_from_64_kibi_to_4_mebi)
+namespace
 {
-    inv_xml_handle *handle = new_handle();
-    begin_load(handle);
+
+// Sizes in KiB of the chunks that many small requests take one after the other.
+std::vector<uint64_t> chunk_sizes(size_t count)
+{
     std::vector<uint64_t> sizes;
     uint64_t mapped = counting_memory::mapped_octets();
-    while (sizes.size() < 9) {
-        ASSERT_NE(record_request(1000), nullptr);
+    while (sizes.size() < count && record_request(1000) != nullptr) {
         uint64_t now = counting_memory::mapped_octets();
         if (now != mapped)
             sizes.push_back((now - mapped) / kibi);
         mapped = now;
     }
+    return sizes;
+}
+
+struct expectation {
+    size_t octets;
+    std::vector<uint64_t> chunk_sizes;
+};
+
+}  // namespace
+
+TEST_F(FileMemory, chunks_double_from_64_kibi_to_1_mebi_and_are_large_pages_when_many)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    EXPECT_EQ(chunk_sizes(21),
+              (std::vector<uint64_t>{64,   128,  256,  512,  1024, 1024, 1024, 1024, 1024, 1024, 1024,
+                                     1024, 1024, 1024, 1024, 1024, 1024, 1024, 1024, 1024, 2048}));
     end_load(false);
-    EXPECT_EQ(sizes, (std::vector<uint64_t>{64, 128, 256, 512, 1024, 2048, 4096, 4096, 4096}));
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, what_is_expected_takes_large_pages_that_are_half_filled_at_least)
+{
+    const expectation expectations[] = {
+        {1024 * kibi - 1, {64, 128}},   {1024 * kibi, {2048, 1024}},
+        {2048 * kibi, {2048, 1024}},    {3071 * kibi, {2048, 1024, 1024}},
+        {3072 * kibi, {4096, 1024}},    {33 * 1024 * kibi, {32768, 2048, 2048}},
+        {SIZE_MAX / 2, {32768, 32768}},
+    };
+    for (const expectation &each : expectations) {
+        inv_xml_handle *handle = new_handle();
+        begin_load(handle);
+        expect_records(each.octets);
+        EXPECT_EQ(chunk_sizes(each.chunk_sizes.size()), each.chunk_sizes) << each.octets;
+        end_load(false);
+        handle_forget(handle);
+    }
+}
+
+TEST_F(FileMemory, chunks_that_a_failed_load_left_serve_what_the_next_expects)
+{
+    inv_xml_handle *handle = new_handle();
+    for (int loads = 0; loads < 3; ++loads) {
+        begin_load(handle);
+        expect_records(1024 * kibi);
+        EXPECT_NE(record_request(1000), nullptr);
+        end_load(true);
+        EXPECT_EQ(counting_memory::mapped_octets() - mapped_before, 2048 * kibi);
+    }
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, outside_a_load_nothing_is_expected)
+{
+    expect_records(1024 * kibi);
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    EXPECT_EQ(chunk_sizes(1), std::vector<uint64_t>{64});
+    end_load(false);
     handle_forget(handle);
 }
 

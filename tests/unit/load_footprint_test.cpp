@@ -11,7 +11,9 @@
 #include <cstdio>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
+#include <string_view>
 
 namespace
 {
@@ -155,6 +157,43 @@ TEST_P(Footprint, the_octets_of_an_entity_do_not_grow_with_the_document)
         inv_parser_close_xml_file(handle);
     }
     EXPECT_LE(each[1], each[0] + each[0] / 20);
+}
+
+std::set<std::string> names_in(const std::string &text)
+{
+    static constexpr std::string_view start = " name=\"";
+    std::set<std::string> names;
+    for (size_t at = text.find(start); at != std::string::npos; at = text.find(start, at)) {
+        at += start.size();
+        names.insert(text.substr(at, text.find('"', at) - at));
+    }
+    return names;
+}
+
+// Decoded data and records never stand in memory whole at one time.
+TEST(DecodedData, what_is_built_goes_back_while_its_siblings_are_built)
+{
+    constexpr size_t large_page = size_t{2} << 20;
+    counting_memory::reset();
+    const std::string text = card_text(10000);
+    inv_xml_handle *handle = open_text("spent", 3, text);
+    ASSERT_NE(handle, nullptr);
+    EXPECT_GE(counting_memory::discarded_octets() + 2 * large_page, text.size() / large_page * large_page)
+        << "all but what the first and the last page hold";
+    // What went back is filled with something else by the tests' memory: nothing of it was read again.
+    sch_eid_type *eids = nullptr;
+    uint32_t count = 0;
+    ASSERT_EQ(inv_parser_get_eid_tree(handle, ORVL_ENTITY_OWNER_TYPE_ALL, nullptr, &eids, &count), 0u);
+    EXPECT_GE(count, 9999u);
+    const std::set<std::string> names = names_in(text);
+    for (uint32_t i = 0; i < count; ++i) {
+        sch_base_entity_type *record = nullptr;
+        ASSERT_EQ(inv_parser_get_eid_data(handle, &record, eids[i]), 0u);
+        ASSERT_EQ(names.count(record->name), 1u) << record->name;
+    }
+    inv_parser_free_eid_tree(eids);
+    inv_parser_close_xml_file(handle);
+    counting_memory::reset();
 }
 
 std::string text_with_slots(int slots)

@@ -21,10 +21,27 @@ void *resize(void *block, size_t size);
 // Gives a block of request() or resize() back; also anything a client got from calloc().
 void release(void *block);
 
-// Zero-filled pages from the system, or null. size is a multiple of 4096.
+inline constexpr size_t small_page = 4096;
+// What the system's larger pages hold, where it has them; elsewhere aligning to it does no harm. Touching
+// one for the first time costs about as much as touching sixty small ones.
+inline constexpr size_t large_page = size_t{2} << 20;
+
+// Whole large pages for what will be used, the last of them when it is filled to `least_of_last` at least. In
+// octets; 0: none.
+constexpr size_t large_pages_for(size_t expected, size_t least_of_last)
+{
+    const size_t rest = expected % large_page;
+    return expected - rest + (rest >= least_of_last ? large_page : 0);
+}
+
+// Zero-filled pages from the system, or null. size is a multiple of small_page; a multiple of large_page
+// asks for large pages. What is not touched takes no memory.
 void *map(size_t size);
 
 void unmap(void *pages, size_t size);
+
+// Gives the memory of mapped pages back and leaves them mapped: they are zero when they are touched again.
+void discard(void *pages, size_t size);
 
 }  // namespace inv::memory
 

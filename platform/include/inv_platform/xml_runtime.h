@@ -178,6 +178,11 @@ void *rtxMemHeapAlloc(xb_context *ctx, size_t size);
  * else waits for rtxFreeContext(). Null does nothing. */
 void rtxMemHeapFreePtr(xb_context *ctx, void *ptr);
 
+/* Says that nothing in the context's heap from `from` on and before `to` is needed any more; both came
+ * from it. Whole pages in between go back to the system, the rest with rtxFreeContext(). Returns where
+ * what is left begins, for the next call to go on from. */
+const void *rtxMemHeapForget(xb_context *ctx, const void *from, const void *to);
+
 /* Appends data to list with a node from the heap. Returns the node, or null when memory is out. */
 xb_data_node *rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data);
 

@@ -3,7 +3,9 @@
 #include "frame/chunk_ranges.h"
 #include "inv_platform/system_memory.h"
 
+#include <algorithm>
 #include <atomic>
+#include <bit>
 #include <stdint.h>
 #include <string.h>
 
@@ -13,9 +15,14 @@ namespace inv::frame
 namespace
 {
 
-constexpr size_t page_size = 4096;
 constexpr size_t first_chunk_size = size_t{64} * 1024;
-constexpr size_t largest_chunk_size = size_t{4} * 1024 * 1024;
+constexpr size_t last_doubled_chunk = size_t{1024} * 1024;
+
+// What is kept as long as the file takes a large page only when it fills half of it.
+constexpr size_t least_of_large_page = memory::large_page / 2;
+constexpr size_t greatest_chunk = 16 * memory::large_page;
+// With so much in use one more large page is little.
+constexpr size_t least_beyond_expected = 8 * memory::large_page;
 
 // A request above this part of the next chunk gets a chunk of its own, so that no rest of a chunk that is
 // left behind is larger.
@@ -66,7 +73,7 @@ void unmap_chunks(chunk *list)
 
 void *take_single_chunk(file_memory *memory, size_t size)
 {
-    size_t whole = (size + sizeof(chunk) + page_size - 1) & ~(page_size - 1);
+    size_t whole = (size + sizeof(chunk) + memory::small_page - 1) & ~(memory::small_page - 1);
     chunk *made = map_chunk(whole);
     if (made == nullptr)
         return nullptr;
@@ -83,6 +90,7 @@ bool next_chunk(file_memory *memory, chunk *next, size_t size)
         if (next == nullptr)
             return false;
         (memory->current == nullptr ? memory->first : memory->current->next) = next;
+        memory->mapped += size;
     }
     memory->current = next;
     memory->free_begin = contents(next);
@@ -90,11 +98,17 @@ bool next_chunk(file_memory *memory, chunk *next, size_t size)
     return true;
 }
 
-size_t size_after(const chunk *current)
+// What is still expected takes large pages, and so does what goes far beyond it.
+size_t next_chunk_size(const file_memory *memory)
 {
-    if (current == nullptr)
-        return first_chunk_size;
-    return current->size < largest_chunk_size ? current->size * 2 : largest_chunk_size;
+    const size_t expected = memory->expected - std::min(memory->expected, memory->mapped);
+    const size_t in_large_pages =
+        memory::large_pages_for(std::min(expected, greatest_chunk), least_of_large_page);
+    if (in_large_pages > 0)
+        return in_large_pages;
+    if (memory->mapped >= least_beyond_expected)
+        return memory::large_page;
+    return std::clamp(std::bit_ceil(memory->mapped + 1), first_chunk_size, last_doubled_chunk);
 }
 
 // size is a multiple of the alignment.
@@ -102,7 +116,7 @@ void *take_aligned(file_memory *memory, size_t size)
 {
     if (size > static_cast<size_t>(memory->free_end - memory->free_begin)) {
         chunk *next = memory->current == nullptr ? memory->first : memory->current->next;
-        size_t next_size = next == nullptr ? size_after(memory->current) : next->size;
+        size_t next_size = next == nullptr ? next_chunk_size(memory) : next->size;
         if (size > next_size / single_chunk_part)
             return take_single_chunk(memory, size);
         if (!next_chunk(memory, next, next_size))
@@ -183,6 +197,14 @@ void begin_load(inv_xml_handle *handle) noexcept
     // The one pointer that a failed load leaves in the handle; the next load may be of another kind.
     handle->module_record = nullptr;
     frame::clear(frame::loading);
+}
+
+void expect_records(size_t octets) noexcept
+{
+    if (frame::loading == nullptr)
+        return;
+    const bool is_unused = frame::loading->current == nullptr;
+    frame::loading->expected = (is_unused ? 0 : frame::loading->mapped) + octets;
 }
 
 void end_load(bool failed) noexcept

@@ -43,6 +43,9 @@ bool holds_all_records(const inv_xml_handle *handle) noexcept;
 void begin_load(inv_xml_handle *handle) noexcept;
 void end_load(bool failed) noexcept;
 
+// Says how much memory the load in progress will take, as far as is known: chunks are chosen by that.
+void expect_records(size_t octets) noexcept;
+
 // The same as a scope. Ends as a success unless told otherwise.
 struct load_scope {
     bool has_failed = false;

@@ -60,6 +60,8 @@ struct file_memory {
     char *free_end;
     char *small_begin;  // rest of the block that small requests come from
     char *small_end;
+    size_t mapped;      // octets of the chunks, without single ones
+    size_t expected;    // what `mapped` will come to, as far as is known
     bool is_kept;       // a load succeeded: nothing in here may be cleared
     bool is_discarded;  // only loads that failed have built here
 };

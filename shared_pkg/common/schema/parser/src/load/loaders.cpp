@@ -10,8 +10,11 @@
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/xml_runtime.h"
 #include "inventory_Derivations.h"
+#include "records/spent_children.h"
 #include "tree/growth.h"
 #include "tree/instance_table.h"
+
+#include <sys/stat.h>
 
 sch_chassis_type *chassis_data;
 sch_module_type *module_data;
@@ -24,6 +27,9 @@ namespace
 {
 
 using namespace inv;
+
+// Octets that an entity's text has at least, about.
+constexpr size_t least_entity_text = 1024;
 
 // What the five loaders that swallow decode failures have in common.
 template <class Start, class Failed>
@@ -156,7 +162,8 @@ struct fan_tray_document : swallowing_document<msg::fan_tray_load_start, msg::fa
 
 // Decodes the handle's file in a context that is ready, and builds the record.
 template <class Document>
-int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename Document::record *record)
+int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename Document::record *record,
+                         size_t expected_entities)
 {
     typename Document::decoded decoded;
     Document::initialise(&decoded);
@@ -169,17 +176,29 @@ int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename D
     }
     // Only while the builders run does anything get filed under this handle.
     begin_instance_table(handle);
-    tree_growth_scope growth;
+    tree_growth_scope growth(expected_entities);
     slot_lookup_scope slots(handle);
+    decoded_scope spent(context);
     parser_set_inv_file_instance(handle);
     Document::build(record, &decoded);
     parser_set_inv_file_instance(nullptr);
     return 0;
 }
 
+// Of the inventory file; 0 when it is not known.
+size_t document_size(const char *file_name)
+{
+    struct stat status;
+    bool is_known = stat(file_name, &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+    return is_known ? static_cast<size_t>(status.st_size) : 0;
+}
+
 template <class Document>
 int32_t load_record(inv_xml_handle *handle)
 {
+    // Records take about what the document's text takes.
+    const size_t size = document_size(handle->file_name);
+    expect_records(size);
     auto *record = record_new<typename Document::record>();
     Document::store(handle, record);
     if (record == nullptr) {
@@ -193,7 +212,7 @@ int32_t load_record(inv_xml_handle *handle)
         rtxFreeContext(&context);
         return status;
     }
-    status = decode_and_build<Document>(&context, handle, record);
+    status = decode_and_build<Document>(&context, handle, record, size / least_entity_text);
     rtxStreamClose(&context);
     rtxFreeContext(&context);
     return status;

@@ -5,6 +5,7 @@
 #include "OrvelianInventorySchema.h"
 #include "access/field_copy.h"
 #include "records/component_list.h"
+#include "records/spent_children.h"
 
 using namespace inv;
 
@@ -49,6 +50,7 @@ void fill_component_lists(sch_module_type *record, const BaseModuleType_2 &own)
 uint32_t fill_child_modules(sch_module_type *record, const xb_data_list &modules)
 {
     sch_module_type **end = end_of_list(&record->module_list);
+    spent_children spent;
     for (const xb_data_node *node = modules.head; node != nullptr; node = node->next) {
         auto *child = record_new<sch_module_type>();
         if (child == nullptr) {
@@ -63,6 +65,7 @@ uint32_t fill_child_modules(sch_module_type *record, const xb_data_list &modules
         *end = child;
         end = &child->next;
         parser_retrieve_base_module_entity_data(child, value, &record->base);
+        spent.add(node);
     }
     return 0;
 }
