@@ -114,7 +114,7 @@ uint32_t build_sequence(inv_xml_handle *handle, int32_t xml_instance, typename F
         return 1;
     }
     hop_chain<Family::max_hops> chain = {};
-    if (!collect_hops<Family>(index_of(handle, Family::over), instance, &chain))
+    if (!collect_hops<Family>(index_without_lock(handle, Family::over), instance, &chain))
         return 1;
     auto *sequence = request_sequence<Family>(chain.count);
     if (sequence == nullptr) {

@@ -66,12 +66,18 @@ uint32_t find_chassis_entity(inv_xml_handle *handle, sch_base_entity_type **out)
     return result;
 }
 
+uint8_t loaded_kind_without_lock(const inv_xml_handle *handle)
+{
+    const side_records_guard held;
+    return loaded_kind(handle);
+}
+
 // Any document may hold an entity that calls itself a chassis; only the top entity of a chassis document
 // is the head of a chassis record.
 const sch_container_list_type *container_lists_of(const inv_xml_handle *handle,
                                                   const sch_base_entity_type *entity)
 {
-    if (loaded_kind(handle) != loaded_chassis_document || handle->root->record != entity)
+    if (loaded_kind_without_lock(handle) != loaded_chassis_document || handle->root->record != entity)
         return nullptr;
     return reinterpret_cast<const sch_chassis_type *>(entity)->container_list_list;
 }

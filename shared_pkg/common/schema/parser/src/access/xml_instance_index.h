@@ -24,6 +24,13 @@ inline xml_instance_index index_of(inv_xml_handle *file, bus which)
     return {index_tree(file, which), instance_table_of(file), which};
 }
 
+// The same for callers without the library lock; the file is kept open by theirs.
+inline xml_instance_index index_without_lock(inv_xml_handle *file, bus which)
+{
+    const side_records_guard held;
+    return index_of(file, which);
+}
+
 inline sch_xml_inst_node_type *search_tree(avl_root *tree, uint32_t xml_instance)
 {
     sch_xml_inst_node_type key = {};

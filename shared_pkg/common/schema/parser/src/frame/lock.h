@@ -1,4 +1,4 @@
-// The one lock of the library, and how an entry point reports that it cannot be taken or released.
+// The lock of the library's entry points, and how an entry point reports that it cannot be taken or released.
 #ifndef FRAME_LOCK_H
 #define FRAME_LOCK_H
 

@@ -2,6 +2,8 @@
 
 #include "inv_platform/system_memory.h"
 
+#include <pthread.h>
+
 namespace inv::frame
 {
 
@@ -12,6 +14,8 @@ namespace
 side_record **places;
 size_t place_count;  // a power of two, or 0
 size_t record_count;
+
+pthread_mutex_t guard_lock = PTHREAD_MUTEX_INITIALIZER;
 
 size_t home_of(const inv_xml_handle *handle, size_t count)
 {
@@ -75,6 +79,7 @@ side_record *find_side_record(const inv_xml_handle *handle) noexcept
 
 bool add_side_record(const inv_xml_handle *handle) noexcept
 {
+    const side_records_guard held;
     if (2 * (record_count + 1) > place_count && !grow())
         return false;
     auto *record = static_cast<side_record *>(memory::request(sizeof(side_record)));
@@ -98,6 +103,7 @@ void remove_side_record(side_record *record) noexcept
         if (record->tables[i] != nullptr)
             record->table_releases[i](record->tables[i]);
     }
+    const side_records_guard held;
     vacate(place_of(record->handle));
     memory::release(record);
     if (--record_count > 0)
@@ -112,6 +118,16 @@ void remove_side_record(side_record *record) noexcept
 
 namespace inv
 {
+
+side_records_guard::side_records_guard() noexcept
+{
+    pthread_mutex_lock(&frame::guard_lock);
+}
+
+side_records_guard::~side_records_guard()
+{
+    pthread_mutex_unlock(&frame::guard_lock);
+}
 
 bool has_side_record(const inv_xml_handle *handle) noexcept
 {

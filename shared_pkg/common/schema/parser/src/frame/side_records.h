@@ -1,5 +1,5 @@
 // What the library keeps privately about a handle that its registry made. Found by the handle's address;
-// a handle that a client put together itself has none.
+// a handle that a client put together itself has none. Callers hold the library lock, or the guard below.
 #ifndef FRAME_SIDE_RECORDS_H
 #define FRAME_SIDE_RECORDS_H
 
@@ -27,6 +27,18 @@ void *get_side_table(const inv_xml_handle *handle, side_table which) noexcept;
 // when replaced. False when the handle has no side record: the caller keeps the table.
 bool set_side_table(const inv_xml_handle *handle, side_table which, void *table,
                     side_table_release release) noexcept;
+
+// Keeps records from coming and going while it lives. For those who look for the record of an open file
+// without the library lock, while other threads open and close other files. What was found stays as long as
+// its file is open. Innermost of all locks: nothing that it surrounds takes one, and it does not nest.
+class side_records_guard
+{
+public:
+    side_records_guard() noexcept;
+    ~side_records_guard();
+    side_records_guard(const side_records_guard &) = delete;
+    side_records_guard &operator=(const side_records_guard &) = delete;
+};
 
 enum loaded_document : uint8_t {
     loaded_chassis_document = 1,
@@ -77,7 +89,8 @@ struct side_record {
 // Null when the handle has none, or is null.
 side_record *find_side_record(const inv_xml_handle *handle) noexcept;
 
-// Gives a new handle its side record; false, and nothing done, when memory is out.
+// Gives a new handle its side record; false, and nothing done, when memory is out. Takes the guard, as the
+// next does.
 bool add_side_record(const inv_xml_handle *handle) noexcept;
 
 // Releases the record's tables and the record. Its file memory is already empty.
