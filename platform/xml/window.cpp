@@ -28,16 +28,18 @@ uint64_t count_line_ends(const char *from, const char *to)
     return count;
 }
 
-// Where the line of `at` starts, or null when that is before `from`.
-const char *line_start(const char *from, const char *at)
+// Moves `from` to where the line of `at` starts; false when that is before `from`, which stays.
+bool find_line_start(const char *&from, const char *at)
 {
     while (at > from) {
         char before = at[-1];
-        if (before == '\n' || (before == '\r' && *at != '\n'))
-            return at;
+        if (before == '\n' || (before == '\r' && *at != '\n')) {
+            from = at;
+            return true;
+        }
         --at;
     }
-    return nullptr;
+    return false;
 }
 
 // The place of `at`, from that of an octet in front of it.
@@ -46,11 +48,9 @@ position counted_from(const position &known, const char *known_at, const char *a
     position place = known;
     place.offset += static_cast<uint64_t>(at - known_at);
     place.line += count_line_ends(known_at, at);
-    const char *start = place.line == known.line ? nullptr : line_start(known_at, at);
-    if (start != nullptr)
-        place.column = 1 + count_characters(start, at);
-    else
-        place.column += count_characters(known_at, at);
+    if (place.line != known.line && find_line_start(known_at, at))
+        place.column = 1;
+    place.column += count_characters(known_at, at);
     return place;
 }
 
@@ -64,10 +64,9 @@ position counted_back(const window &view, const char *at, const char *found_at)
         place.column -= count_characters(at, found_at);
         return place;
     }
-    const char *start = line_start(view.octets, at);
-    // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): an open window has octets
-    place.column = start != nullptr ? 1 + count_characters(start, at)
-                                    : view.start.column + count_characters(view.octets, at);
+    const char *start = view.octets;
+    place.column = find_line_start(start, at) ? 1 : view.start.column;
+    place.column += count_characters(start, at);
     return place;
 }
 

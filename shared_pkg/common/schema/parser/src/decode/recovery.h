@@ -71,10 +71,10 @@ struct armed_content {
     content_scope scope;  // left alone unless entered
 };
 
-// NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.UninitializedObject): the scope is not looked at then
 inline armed_content::armed_content(xb_context *ctx, const type_description &type, bool group)
     : entered(is_armed(ctx))
 {
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.UninitializedObject): only looked at when entered
     if (entered)
         enter(type, group);
 }
