@@ -8,6 +8,9 @@ INSTALL ?= yes
 PREFIX ?= /usr/local
 # For each fuzz target.
 FUZZ_SECONDS ?= 20
+# Of the long runs.
+SOAK_SECONDS ?= 1800
+SOAK_CALLS ?= 10000000
 BUILD := build/dev
 
 # packages(SET): installs what is missing of one of the package sets
@@ -29,6 +32,7 @@ endef
 .PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
 .PHONY: check-clang check-asan check-tsan check-fuzz
+.PHONY: soak soak-memory soak-threads
 
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 18
@@ -88,6 +92,19 @@ check-fuzz: ## a minute of fuzzing, starting from the kept corpus
 	$(call packages,build check)
 	$(call build,fuzz,--target fuzz_document fuzz_open fuzz_catalogue fuzz_roads)
 	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
+
+# What takes longer than continuous integration has time for.
+soak: soak-threads soak-memory ## everything that runs for hours: threads, memory
+
+soak-threads: ## ten million calls of eight threads under the thread sanitizer
+	$(call packages,build test check)
+	$(call build,tsan,--target threads_stress_test)
+	INV_STRESS_CALLS=$(SOAK_CALLS) build/tsan/tests/stress/threads_stress_test
+
+soak-memory: ## half an hour of opening, asking and closing in one process: memory and files stay as they were
+	$(call packages,build test)
+	$(call build,dev,--target inv_soak)
+	$(BUILD)/tests/stress/inv_soak --seconds $(SOAK_SECONDS)
 
 check-format: ## formatting of all sources
 	$(call packages,check)

@@ -9,9 +9,10 @@
  * Results are 0 for success and 1 for failure. A failure leaves *out untouched, unless said otherwise,
  * and keeps nothing allocated. A null output, EID or record is a failure without trace.
  *
- * Nothing here takes the library lock itself: calls are to be serialised with the close of the same
- * files. The functions that look an EID up call inv_parser_get_eid_data() and those that look for a
- * chassis also inv_parser_get_eid_by_type(), which take the lock and trace as described there.
+ * Nothing here holds the library lock while a sequence is built: calls are to be serialised with the last
+ * close of the same files, and may run beside each other and beside all else. The functions that look an
+ * EID up call inv_parser_get_eid_data() and those that look for a chassis also
+ * inv_parser_get_eid_by_type(), which take the lock for their run and trace as described there.
  *
  * How a sequence is built: the device's xml instance is looked up in the file's index, then over and
  * over the entity whose port leads there, up to an entity that no port leads to. Each hop describes its
@@ -137,10 +138,10 @@ uint32_t inv_parser_get_i2c_access_sequence_by_eid(inv_xml_handle *handle, const
  * them. A card whose way has no hops leaves its channel unsaid. Where the control card knows no such
  * slot, or a type above 20 was given, the pair holds two nulls and the result is 0.
  *
- * Takes no lock. Release with inv_parser_free_remote_i2c_access_sequence(). Returns 1, *out untouched,
- * when memory runs out (83, 87 for slot 0, 88 for slot 1), cc is null (no trace), the way to slot 0
- * (84) or slot 1 (85) or to the device (traces of the form by xml instance) cannot be built, and when
- * no entity has the EID (86). */
+ * Takes the library lock to look *eid up. Release with inv_parser_free_remote_i2c_access_sequence().
+ * Returns 1, *out untouched, when memory runs out (83, 87 for slot 0, 88 for slot 1), cc is null (no
+ * trace), the way to slot 0 (84) or slot 1 (85) or to the device (traces of the form by xml instance)
+ * cannot be built, and when no entity has the EID (86). */
 uint32_t inv_parser_get_i2c_access_sequence_from_control_card(inv_xml_handle *cc, inv_xml_handle *device,
                                                               uint32_t type, uint32_t position,
                                                               const sch_eid_type *eid,
@@ -200,10 +201,10 @@ uint32_t inv_parser_get_pcie_access_sequence_by_eid(inv_xml_handle *handle, cons
  * slot's port is the link port of the hop that joins; the header holds the target's xml instance and its
  * hop is left out, as in the form by EID.
  *
- * Takes no lock. Release with inv_parser_free_remote_i2c_access_sequence(), which serves both kinds of
- * pair. Returns 1, *out untouched, when memory runs out (89, 93 for slot 0, 94 for slot 1), cc is null
- * (no trace), the way to slot 0 (90) or slot 1 (91) or to the device cannot be built, and when no
- * entity has the EID (92). */
+ * Takes the library lock to look *eid up. Release with inv_parser_free_remote_i2c_access_sequence(), which
+ * serves both kinds of pair. Returns 1, *out untouched, when memory runs out (89, 93 for slot 0, 94 for
+ * slot 1), cc is null (no trace), the way to slot 0 (90) or slot 1 (91) or to the device cannot be built,
+ * and when no entity has the EID (92). */
 uint32_t inv_parser_get_pcie_access_sequence_from_control_card(inv_xml_handle *cc, inv_xml_handle *device,
                                                                uint32_t type, uint32_t position,
                                                                const sch_eid_type *eid,

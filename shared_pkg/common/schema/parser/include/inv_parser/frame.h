@@ -12,8 +12,9 @@
  * written anywhere.
  *
  * Locking. "Takes the library lock" means: held for the whole run of the call, never nested, so
- * that such calls may come from any thread. Calls without the lock are the caller's to serialise
- * with open and close.
+ * that such calls may come from any thread. Calls without the lock are safe beside them as long as the
+ * caller keeps the files that it asks about open, or are the caller's to serialise with open and close:
+ * docs/concurrency.md has a row for each.
  */
 #ifndef INV_PARSER_FRAME_H
 #define INV_PARSER_FRAME_H
@@ -40,13 +41,15 @@ extern "C" {
  * which is 0 when the line was written. */
 uint32_t inv_parser_init(void *config);
 
-/* Opens the channel unless it is open and applies `config` as above. No lock. Returns what the
- * trace library's qtrace_enable_configuration() returned, or 22 with a line on standard error when
- * the channel cannot be opened. */
+/* Opens the channel unless it is open and applies `config` as above. No lock: to be serialised with
+ * inv_parser_init() and inv_schema_qtrace_init(). Returns what the trace library's
+ * qtrace_enable_configuration() returned, or 22 with a line on standard error when the channel cannot be
+ * opened. */
 uint32_t inv_schema_qtrace_enable_config(void *config);
 
-/* Opens the channel, also when one is open, and arms its dump at process exit. No lock. Returns 0, or
- * 22 with a line on standard error; a channel that was open before then stays in use. */
+/* Opens the channel, also when one is open, and arms its dump at process exit. No lock: to be serialised
+ * with every call that may trace. Returns 0, or 22 with a line on standard error; a channel that was open
+ * before then stays in use. */
 uint32_t inv_schema_qtrace_init(void);
 
 /* Stores the open channel's handle in *out; it belongs to the library. No lock. Returns 0, or 22

@@ -8,9 +8,9 @@
  * records belong to the library and live until the file is closed.
  *
  * The four queries that say so take the library lock for their whole run; the other functions here take
- * none and are to be serialised with close. A failure to take the lock is traced with the query's lock
- * message and is a failure that touches no output. A failure to release it is traced (EID data and EID
- * tree use the lock text: kept, tools match it) and changes nothing.
+ * none. All but the release are to be serialised with the last close of the file. A failure to take the
+ * lock is traced with the query's lock message and is a failure that touches no output. A failure to
+ * release it is traced (EID data and EID tree use the lock text: kept, tools match it) and changes nothing.
  *
  * Owner argument: ORVL_ENTITY_OWNER_TYPE_ALL (6) answers all entities. Any other value narrows the
  * answer, in its order, to entities with that owner or with ORVL_ENTITY_OWNER_TYPE_COMMON (5). Each EID
