@@ -24,14 +24,15 @@ ptrdiff_t input_read(input &from, void *buffer, size_t size, int *error)
     }
     for (;;) {
         ssize_t taken = read(from.descriptor, buffer, size);
-        if (taken >= 0) {
-            from.progress.read += static_cast<size_t>(taken);
+        if (taken < 0 && errno == EINTR)
+            continue;
+        from.progress.read += static_cast<size_t>(std::max(taken, ssize_t{0}));
+        // Somebody may go on writing behind the size that was seen at the open.
+        bool is_too_long = from.progress.read > XB_MAX_FILE_SIZE;
+        if (taken >= 0 && !is_too_long)
             return taken;
-        }
-        if (errno != EINTR) {
-            *error = errno;
-            return -1;
-        }
+        *error = is_too_long ? EFBIG : errno;
+        return -1;
     }
 }
 
@@ -56,24 +57,47 @@ void input_close(input &which)
 namespace
 {
 
-// Returns the descriptor, or -1 with the reason in errno. Folders are refused here because
-// reading them fails only later and with less to say.
-int open_for_reading(const char *file_name, uint64_t *size)
+// Why a file is not read.
+struct refusal {
+    int error;  // 0: it is
+    const char *reason;
+};
+
+refusal refused_by_system(int error)
+{
+    return {error, strerrordesc_np(error)};
+}
+
+// Reading a folder fails only later and with less to say. A pipe or a device may keep the reader waiting, or
+// never end.
+refusal check_file(int descriptor, uint64_t &size)
+{
+    struct stat status;
+    if (fstat(descriptor, &status) != 0)
+        return refused_by_system(errno);
+    if (S_ISDIR(status.st_mode))
+        return refused_by_system(EISDIR);
+    if (!S_ISREG(status.st_mode))
+        return {EINVAL, "not a regular file"};
+    if (status.st_size > off_t{XB_MAX_FILE_SIZE})
+        return refused_by_system(EFBIG);
+    size = static_cast<uint64_t>(status.st_size);
+    return {0, nullptr};
+}
+
+// Returns the descriptor, or -1 with the reason in `why`.
+int open_for_reading(const char *file_name, uint64_t &size, refusal &why)
 {
     int descriptor;
     do {
-        descriptor = open(file_name, O_RDONLY | O_CLOEXEC);
+        // Not to wait for a writer when the name is that of a pipe.
+        descriptor = open(file_name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     } while (descriptor < 0 && errno == EINTR);
-    struct stat status;
-    if (descriptor < 0 || fstat(descriptor, &status) != 0)
+    why = descriptor < 0 ? refused_by_system(errno) : check_file(descriptor, size);
+    if (descriptor < 0 || why.error == 0)
         return descriptor;
-    if (S_ISDIR(status.st_mode)) {
-        close(descriptor);
-        errno = EISDIR;
-        return -1;
-    }
-    *size = S_ISREG(status.st_mode) ? static_cast<uint64_t>(status.st_size) : 0;
-    return descriptor;
+    close(descriptor);
+    return -1;
 }
 
 }  // namespace
@@ -86,13 +110,12 @@ int32_t rtxStreamFileCreateReader(xb_context *ctx, const char *file_name)
     rtxStreamClose(ctx);
     const char *name = file_name == nullptr ? "" : file_name;
     uint64_t size = 0;
-    int descriptor = open_for_reading(name, &size);
+    refusal why;
+    int descriptor = open_for_reading(name, size, why);
     if (descriptor < 0) {
-        int32_t status = errno == ENOMEM ? XB_E_NO_MEMORY : XB_E_FILE_OPEN;
-        char text[128];
-        const char *reason = strerror_r(errno, text, sizeof text);
+        int32_t status = why.error == ENOMEM ? XB_E_NO_MEMORY : XB_E_FILE_OPEN;
         add_parameter(*ctx->state, name);
-        add_parameter(*ctx->state, reason);
+        add_parameter(*ctx->state, why.reason == nullptr ? "unknown error" : why.reason);
         return record_error(*ctx->state, status, true, "", 0);
     }
     ctx->state->in.open = true;

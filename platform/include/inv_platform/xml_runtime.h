@@ -58,6 +58,10 @@ enum xb_status {
 /* Greatest number of elements open at once; the element beyond it fails with XB_E_DEPTH. */
 #define XB_MAX_DEPTH 128
 
+/* Greatest size of a file in octets. A larger one is not opened; one that grows beyond it while it is
+ * read ends with XB_E_FILE_READ. */
+#define XB_MAX_FILE_SIZE 1073741824
+
 /* How a name is found in its table without comparing it with every row: rows whose hashes fall into
  * the same bucket are chained, in table order. Bucket hash * row_count >> 32 begins with the row that
  * the bucket's own row names. A table with hash 0 in its first row is searched row by
@@ -189,8 +193,8 @@ xb_data_node *rtxDListAppend(xb_context *ctx, xb_data_list *list, void *data);
 /* --- Input ------------------------------------------------------------------------------ */
 
 /* Opens file_name for reading; an input that is open is closed first. Returns 0, XB_E_FILE_OPEN
- * (missing, no permission, a folder) or XB_E_NO_MEMORY; a failure is recorded with the file name
- * and the system's reason. */
+ * (missing, no permission, no regular file, larger than XB_MAX_FILE_SIZE) or XB_E_NO_MEMORY; a failure is
+ * recorded with the file name and the reason. Never waits: pipes and devices are refused. */
 int32_t rtxStreamFileCreateReader(xb_context *ctx, const char *file_name);
 
 /* Reads from size octets at data, which must outlive the context's use of it. */
