@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "OrvelianInventorySchema.h"
+#include "all_memory.h"
 #include "document.h"
 #include "eid_text.h"
 #include "entity_records.h"
@@ -23,6 +24,7 @@ using invctl::bus;
 using invctl::document;
 using invctl::path_hop;
 using invctl::path_options;
+using invctl::with_all_memory;
 using json = nlohmann::ordered_json;
 using node_list = std::vector<const eid_chain_node *>;
 
@@ -212,7 +214,7 @@ typename Calls::sequence *build_path(const document &opened, const path_options 
         complain("no path: " + hidden_by);
         return nullptr;
     }
-    Calls::by_xml_inst(opened.handle, instance, &sequence);
+    with_all_memory([&] { return Calls::by_xml_inst(opened.handle, instance, &sequence); });
     if (sequence != nullptr && is_no_device(opened, options, target)) {
         Calls::release(sequence);
         sequence = nullptr;
@@ -239,8 +241,10 @@ bool has_path(const document &card, bus over, uint32_t parent)
     auto instance = static_cast<int32_t>(parent);
     sch_i2c_access_seq_type *i2c = nullptr;
     sch_pcie_access_seq_type *pcie = nullptr;
-    uint32_t result = over == bus::i2c ? i2c_calls::by_xml_inst(card.handle, instance, &i2c)
-                                       : pcie_calls::by_xml_inst(card.handle, instance, &pcie);
+    uint32_t result = with_all_memory([&] {
+        return over == bus::i2c ? i2c_calls::by_xml_inst(card.handle, instance, &i2c)
+                                : pcie_calls::by_xml_inst(card.handle, instance, &pcie);
+    });
     i2c_calls::release(i2c);
     pcie_calls::release(pcie);
     return result == 0;
@@ -308,9 +312,12 @@ int find_card_paths(const document &card, const document &opened, const path_opt
     parser_populate_parent_eid_data(const_cast<eid_chain_node *>(target), &eid);
     typename Calls::pair *pair = nullptr;
     sch_base_entity_type *named = nullptr;
-    inv_parser_get_eid_data(opened.handle, &named, eid);
-    if (named != target->record ||
-        Calls::from_card(card.handle, opened.handle, options.node_type, options.position, &eid, &pair) != 0) {
+    const bool has_pair = with_all_memory([&] {
+        inv_parser_get_eid_data(opened.handle, &named, eid);
+        return named == target->record && Calls::from_card(card.handle, opened.handle, options.node_type,
+                                                           options.position, &eid, &pair) == 0;
+    });
+    if (!has_pair) {
         explain_card(card, options, target, eid, opened);
         return invctl::exit_finding;
     }

@@ -9,6 +9,7 @@
 
 #include "OrvelianInventorySchema.h"
 #include "OrvelianInventorySchemaDec.h"
+#include "all_memory.h"
 #include "exit_codes.h"
 #include "inv_platform/lookup.h"
 #include "inv_platform/xml_runtime.h"
@@ -16,6 +17,8 @@
 
 namespace
 {
+
+using invctl::with_all_memory;
 
 // What the library's file lookup is answered with while a document is being opened.
 std::string file_to_open;
@@ -50,6 +53,11 @@ const root_kind root_kinds[] = {
 
 void print_errors(const std::string &path, const xb_context *context)
 {
+    // A context that could not be made has no errors to ask for.
+    if (context->state == nullptr) {
+        fprintf(stderr, "%s: error[%d]: %s\n", path.c_str(), XB_E_NO_MEMORY, rtxErrText(XB_E_NO_MEMORY));
+        return;
+    }
     xb_error error;
     for (uint32_t index = 0; rtxErrGet(context, index, &error); ++index) {
         if (error.line != 0)
@@ -71,31 +79,35 @@ int exit_code_of(int32_t status)
     return system_trouble ? invctl::exit_trouble : invctl::exit_finding;
 }
 
-// Reads as far as the root element's start tag and finds its kind; null with *code set otherwise.
+// Reads as far as the root element's start tag; null with what is wrong recorded and in *status otherwise.
+const root_kind *read_kind(xb_context *context, const std::string &file, int32_t *status)
+{
+    *status = rtXmlInitContext(context);
+    if (*status != XB_OK)
+        return nullptr;
+    *status = rtxStreamFileCreateReader(context, file.c_str());
+    if (*status == XB_OK)
+        *status = rtXmlpCreateReader(context);
+    if (*status == XB_OK)
+        *status = rtXmlpMatchStartTag(context, root_kinds[0].element, -1);
+    if (*status == XB_OK)
+        return &root_kinds[0];
+    // The runtime records nothing for a caller who only asks; the name comes with the record.
+    rtxErrSetData(context, *status, __FILE__, __LINE__);
+    xb_error error;
+    if (*status == XB_E_ROOT_MISMATCH && rtxErrGet(context, 0, &error) && error.parameter_count > 0)
+        for (const root_kind &kind : root_kinds)
+            if (strcmp(error.parameters[0], kind.element) == 0)
+                return &kind;
+    return nullptr;
+}
+
+// The kind of a document; null with *code set when it has none.
 const root_kind *kind_of_document(const std::string &path, const std::string &file, int *code)
 {
     xb_context context = {};
-    const root_kind *found = nullptr;
-    int32_t status = rtXmlInitContext(&context);
-    if (status == XB_OK)
-        status = rtxStreamFileCreateReader(&context, file.c_str());
-    if (status == XB_OK)
-        status = rtXmlpCreateReader(&context);
-    if (status == XB_OK)
-        status = rtXmlpMatchStartTag(&context, root_kinds[0].element, -1);
-    if (status == XB_OK) {
-        found = &root_kinds[0];
-    } else if (status == XB_E_ROOT_MISMATCH) {
-        // The runtime records nothing for a caller who only asks; the name comes with the record.
-        rtxErrSetData(&context, status, __FILE__, __LINE__);
-        xb_error error;
-        rtxErrGet(&context, 0, &error);
-        for (const root_kind &kind : root_kinds)
-            if (error.parameter_count > 0 && strcmp(error.parameters[0], kind.element) == 0)
-                found = &kind;
-    } else {
-        rtxErrSetData(&context, status, __FILE__, __LINE__);
-    }
+    int32_t status = XB_OK;
+    const root_kind *found = with_all_memory([&] { return read_kind(&context, file, &status); });
     if (found == nullptr) {
         print_errors(path, &context);
         *code = exit_code_of(status);
@@ -109,11 +121,12 @@ const root_kind *kind_of_document(const std::string &path, const std::string &fi
 int diagnose(const std::string &path, const std::string &file, const root_kind &kind)
 {
     xb_context context = {};
-    int32_t status = rtXmlInitContext(&context);
-    if (status == XB_OK)
-        status = rtxStreamFileCreateReader(&context, file.c_str());
-    if (status == XB_OK)
-        status = kind.decode(&context);
+    const int32_t status = with_all_memory([&] {
+        int32_t result = rtXmlInitContext(&context);
+        if (result == XB_OK)
+            result = rtxStreamFileCreateReader(&context, file.c_str());
+        return result == XB_OK ? kind.decode(&context) : result;
+    });
     if (status == XB_OK)
         fprintf(stderr, "%s: error: the document could be decoded but not loaded\n", path.c_str());
     else
@@ -128,7 +141,7 @@ std::string short_name(const std::string &path)
 {
     if (path.size() < INV_FILE_NAME_SIZE)
         return path;
-    int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     return file < 0 ? path : "/proc/self/fd/" + std::to_string(file);
 }
 
@@ -157,7 +170,7 @@ int open_document(const std::string &path, document *opened)
     opened->path = path;
     opened->kind = kind->element;
     file_to_open = file;
-    opened->handle = inv_parser_open_xml_file(0, kind->pi_hw_type, 0, "");
+    opened->handle = with_all_memory([&] { return inv_parser_open_xml_file(0, kind->pi_hw_type, 0, ""); });
     file_to_open.clear();
     if (opened->handle != nullptr && opened->handle->root != nullptr)
         return exit_ok;

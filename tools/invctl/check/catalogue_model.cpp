@@ -1,7 +1,10 @@
 #include "catalogue_model.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
+#include <new>
+#include <system_error>
 
 namespace
 {
@@ -42,6 +45,21 @@ std::string opened_name(const catalogue_check &of, std::string_view file)
     if (!name.empty() && !name.ends_with('/'))
         name += '/';
     return name.append(file);
+}
+
+std::vector<std::string> document_names_in(const std::string &folder)
+{
+    std::vector<std::string> names;
+    std::error_code trouble;
+    for (std::filesystem::directory_iterator at(folder.empty() ? "." : folder, trouble), end;
+         !trouble && at != end; at.increment(trouble))
+        if (at->path().extension() == ".xml")
+            names.push_back(at->path().filename().string());
+    // Without memory there would be other findings than there are.
+    if (trouble == std::errc::not_enough_memory)
+        throw std::bad_alloc();
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 std::vector<catalogued_unit> units_of(const catalogue_check &of)

@@ -24,6 +24,9 @@ struct catalogued_unit {
 // The name by which a file that the catalogue names is opened: relative ones start at the catalogue's folder.
 std::string opened_name(const catalogue_check &of, std::string_view file);
 
+// The *.xml in a folder (empty: the current one), sorted. A folder that cannot be read has none.
+std::vector<std::string> document_names_in(const std::string &folder);
+
 // Lines that cannot be read are left out.
 std::vector<catalogued_unit> units_of(const catalogue_check &of);
 

@@ -1,5 +1,4 @@
 // Files that the catalogue names and nobody can read.
-#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <sys/stat.h>
@@ -13,15 +12,17 @@
 namespace
 {
 
-// 0 when the file can be read, else the system's error.
-int trouble_with(const std::string &file)
+// Empty when the file can be read.
+std::string trouble_with(const std::string &file)
 {
     struct stat status = {};
     if (stat(file.c_str(), &status) != 0)
-        return errno;
+        return std::generic_category().message(errno);
     if (S_ISDIR(status.st_mode))
-        return EISDIR;
-    return access(file.c_str(), R_OK) == 0 ? 0 : errno;
+        return std::generic_category().message(EISDIR);
+    if (!S_ISREG(status.st_mode))
+        return "not a regular file";
+    return access(file.c_str(), R_OK) == 0 ? "" : std::generic_category().message(errno);
 }
 
 // Looking for what was meant reads a folder; a catalogue that names nothing right must not take forever.
@@ -31,15 +32,8 @@ constexpr size_t most_looked_for = 100;
 // The document in the same folder that may have been meant.
 std::string hint_for(const std::string &file)
 {
-    namespace fs = std::filesystem;
-    const fs::path path = file;
-    std::vector<std::string> names;
-    std::error_code trouble;
-    for (fs::directory_iterator at(path.has_parent_path() ? path.parent_path() : ".", trouble), end;
-         !trouble && at != end; at.increment(trouble))
-        if (at->path().extension() == ".xml")
-            names.push_back(at->path().filename().string());
-    std::sort(names.begin(), names.end());
+    const std::filesystem::path path = file;
+    const std::vector<std::string> names = invctl::check::document_names_in(path.parent_path().string());
     const std::string meant = invctl::nearest_word(path.filename().string(), names);
     return meant.empty() ? plain_hint : "did you mean " + invctl::printable(meant.c_str()) + "?";
 }
@@ -55,10 +49,9 @@ void check_catalogued_file_missing(const catalogue_check &catalogue, finding_lis
     for (const catalogued_unit &unit : units_of(catalogue)) {
         if (unit.document != nullptr && unit.document->root != nullptr)
             continue;
-        if (const int error = trouble_with(unit.file))
+        if (const std::string trouble = trouble_with(unit.file); !trouble.empty())
             report_line(found, catalogue, *unit.line, unit.columns.file,
-                        printable(std::string(unit.columns.file).c_str()) + ": " +
-                            std::generic_category().message(error))
+                        printable(std::string(unit.columns.file).c_str()) + ": " + trouble)
                 .hint = ++missing <= most_looked_for ? hint_for(unit.file) : plain_hint;
     }
 }

@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "all_memory.h"
 #include "catalogue_model.h"
 #include "lookup/pattern.h"
 #include "output.h"
@@ -114,19 +115,6 @@ bool is_unit(const std::string &file)
     return found;
 }
 
-std::vector<std::string> documents_in(const catalogue_check &catalogue)
-{
-    std::vector<std::string> files;
-    std::error_code trouble;
-    const std::string folder = catalogue.folder.empty() ? "." : catalogue.folder;
-    for (std::filesystem::directory_iterator at(folder, trouble), end; !trouble && at != end;
-         at.increment(trouble))
-        if (at->path().extension() == ".xml")
-            files.push_back(opened_name(catalogue, at->path().filename().string()));
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
 }  // namespace
 
 namespace invctl::check
@@ -136,11 +124,14 @@ void check_unit_unreached(const catalogue_check &catalogue, finding_list &found)
 {
     const std::vector<catalogued_unit> units = units_of(catalogue);
     const std::unordered_set<std::string> reached = reached_files(catalogue, units, found);
-    for (const std::string &file : documents_in(catalogue))
-        if (!reached.contains(std::filesystem::path(file).lexically_normal().string()) && is_unit(file))
+    for (const std::string &name : document_names_in(catalogue.folder)) {
+        const std::string file = opened_name(catalogue, name);
+        if (!reached.contains(std::filesystem::path(file).lexically_normal().string()) &&
+            invctl::with_all_memory([&] { return is_unit(file); }))
             report_file(found, file, {},
                         "no line of " + printable(catalogue.catalogue.c_str()) + " leads to this document")
                 .hint = "add a line for its unit, or move the file away";
+    }
 }
 
 }  // namespace invctl::check

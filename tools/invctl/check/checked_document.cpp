@@ -76,6 +76,10 @@ const root_row *find_kind(checked_document &document)
     const char *name = nullptr;
     uint64_t offset = 0;
     int32_t tag = rtxPeekTag(context, &local, &name, &offset);
+    if (tag == XB_E_NO_MEMORY) {
+        document.status = tag;
+        return nullptr;
+    }
     for (const root_row &row : roots)
         if (tag == 1 && local != nullptr && strcmp(local, row.element) == 0)
             return &row;

@@ -1,9 +1,6 @@
 #include "run_checks.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -11,35 +8,16 @@
 #include <system_error>
 #include <unordered_set>
 
+#include "all_memory.h"
 #include "catalogue_model.h"
 #include "checks.h"
+#include "read_octets.h"
 #include "schema_findings.h"
 
 namespace
 {
 
 using namespace invctl::check;
-
-constexpr const char *standard_input = "-";
-
-bool read_stream(FILE *from, std::string *octets)
-{
-    char block[1 << 16];
-    for (size_t size = 1; size > 0;) {
-        size = fread(block, 1, sizeof block, from);
-        octets->append(block, size);
-    }
-    return ferror(from) == 0;
-}
-
-// False with errno set.
-bool read_octets(const std::string &file, std::string *octets)
-{
-    if (file == standard_input)
-        return read_stream(stdin, octets);
-    std::unique_ptr<FILE, int (*)(FILE *)> stream(fopen(file.c_str(), "rb"), fclose);
-    return stream != nullptr && read_stream(stream.get(), octets);
-}
 
 // What the system is to blame for is no finding.
 bool is_system_trouble(int32_t status)
@@ -53,14 +31,17 @@ std::unique_ptr<checked_document> read_document(const std::string &file, check_r
 {
     auto document = std::make_unique<checked_document>();
     document->file = file;
-    if (!read_octets(file, &document->octets)) {
-        result.troubles.push_back(file + ": " + std::generic_category().message(errno));
+    if (const std::string reason = read_octets(file, &document->octets); !reason.empty()) {
+        result.troubles.push_back(file + ": " + reason);
         return nullptr;
     }
-    decode_document(*document);
-    if (!is_system_trouble(document->status))
+    const int32_t status = invctl::with_all_memory([&] {
+        decode_document(*document);
+        return document->status;
+    });
+    if (!is_system_trouble(status))
         return document;
-    result.troubles.push_back(file + ": " + rtxErrText(document->status));
+    result.troubles.push_back(file + ": " + rtxErrText(status));
     return nullptr;
 }
 
@@ -164,8 +145,8 @@ void check_folder(const std::string &folder, check_result &result)
 void check_catalogue(const std::string &file, check_result &result)
 {
     std::string text;
-    if (!read_octets(file, &text)) {
-        result.troubles.push_back(file + ": " + std::generic_category().message(errno));
+    if (const std::string reason = read_octets(file, &text); !reason.empty()) {
+        result.troubles.push_back(file + ": " + reason);
         return;
     }
     catalogue_check catalogue;
