@@ -28,6 +28,7 @@ constexpr size_t queue_events = 1024;
 // What one reference may expand to in the queue, which it has to fit into as a whole.
 constexpr size_t most_of_one_reference = size_t{1} << 20;
 constexpr size_t greatest_chunk = size_t{64} << 20;
+constexpr size_t greatest_grown_chunk = size_t{512} << 20;
 
 // Values that the document type gives may come to this many octets, or to this many times what has
 // been read of the document; expat bounds entities likewise, but not these.
@@ -63,7 +64,9 @@ struct expat_source {
     XML_Parser parser;
     input *in;
     event_reader reader;
-    size_t chunk_size;
+    size_t chunk_size;  // asked for at the next reading
+    size_t least_chunk;
+    XML_Index token_at;  // where expat stood after the last chunk
     bool first_chunk_seen;
     bool last_chunk_fed;
     bool paused;               // the parser is suspended until the queue has drained
@@ -352,6 +355,16 @@ int XMLCALL on_external_entity(XML_Parser parser, const XML_Char *, const XML_Ch
     return XML_STATUS_ERROR;
 }
 
+// Releases of expat that are in use look at an unfinished token from its start again with each chunk. Chunks
+// that grow with the token keep this linear.
+void fit_chunk_to_token(expat_source &source)
+{
+    const XML_Index at = XML_GetCurrentByteIndex(source.parser);
+    const size_t grown = std::min(source.chunk_size * 2, greatest_grown_chunk);
+    source.chunk_size = at == source.token_at ? grown : source.least_chunk;
+    source.token_at = at;
+}
+
 XML_Status feed_chunk(expat_source &source)
 {
     void *buffer = XML_GetBuffer(source.parser, static_cast<int>(source.chunk_size));
@@ -369,7 +382,9 @@ XML_Status feed_chunk(expat_source &source)
         source.byte_order_mark = *static_cast<const unsigned char *>(buffer) == 0xEF;
     }
     source.last_chunk_fed = count == 0;
-    return XML_ParseBuffer(source.parser, static_cast<int>(count), count == 0);
+    XML_Status status = XML_ParseBuffer(source.parser, static_cast<int>(count), count == 0);
+    fit_chunk_to_token(source);
+    return status;
 }
 
 void parse_further(expat_source &source)
@@ -525,7 +540,7 @@ bool create_expat_source(event_source &source, input &in, size_t chunk_size, con
     }
     made->in = &in;
     made->reader = reader;
-    made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
+    made->least_chunk = made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
     set_handlers(*made);
     source = {next_event, destroy, nullptr, nullptr, nullptr, nullptr, made};
     return true;

@@ -177,8 +177,28 @@ lexed lex_attributes(lexer &lex, const char *&at, const char *tag, growing_array
     }
 }
 
+// The lowest index in a run of attributes with one hash whose name an earlier one has, or `repeated`.
+size_t repeated_in_run(const attribute *items, uint64_t *begin, uint64_t *end, size_t repeated)
+{
+    const auto name = [items](uint64_t key) { return name_of(items[static_cast<uint32_t>(key)]); };
+    if (end - begin < 2)
+        return repeated;
+    if (name(begin[0]) == name(begin[1]))
+        return std::min<size_t>(repeated, static_cast<uint32_t>(begin[1]));
+    std::sort(begin, end, [name](uint64_t a, uint64_t b) {
+        int by_name = name(a).compare(name(b));
+        return by_name != 0 ? by_name < 0 : a < b;
+    });
+    for (uint64_t *at = begin + 1; at < end; ++at) {
+        if (name(at[-1]) == name(at[0]))
+            repeated = std::min<size_t>(repeated, static_cast<uint32_t>(*at));
+    }
+    return repeated;
+}
+
 // Index of the first attribute whose name an earlier one has, or `count`. Few are compared with each
-// other; many are sorted, so that no choice of names makes this slow.
+// other; many are sorted by their hashes, and by name where these agree, so that no choice of names makes
+// this slow.
 lexed find_repeated(const attribute *items, size_t count, size_t &repeated)
 {
     repeated = count;
@@ -191,20 +211,19 @@ lexed find_repeated(const attribute *items, size_t count, size_t &repeated)
         }
         return lexed::ok;
     }
-    growing_array<size_t> order;
-    if (!make_room(order, count))
+    growing_array<uint64_t> keys;  // hash, then index
+    if (count > UINT32_MAX || !make_room(keys, count))
         return lexed::no_memory;
     for (size_t i = 0; i < count; ++i)
-        order.items[i] = i;
-    std::sort(order.items, order.items + count, [items](size_t a, size_t b) {
-        int by_name = name_of(items[a]).compare(name_of(items[b]));
-        return by_name != 0 ? by_name < 0 : a < b;
-    });
-    for (size_t i = 1; i < count; ++i) {
-        if (name_of(items[order.items[i - 1]]) == name_of(items[order.items[i]]))
-            repeated = std::min(repeated, order.items[i]);
+        keys.items[i] = uint64_t{items[i].name_hash} << 32 | i;
+    std::sort(keys.items, keys.items + count);
+    for (size_t start = 0, i = 1; i <= count; ++i) {
+        if (i < count && keys.items[i] >> 32 == keys.items[start] >> 32)
+            continue;
+        repeated = repeated_in_run(items, keys.items + start, keys.items + i, repeated);
+        start = i;
     }
-    release_array(order);
+    release_array(keys);
     return lexed::ok;
 }
 

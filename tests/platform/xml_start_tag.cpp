@@ -169,11 +169,11 @@ TEST(XmlStartTag, mistakes_are_found_at_their_octet_and_leave_no_attribute)
     }
 }
 
-std::string with_attributes(int count, int repeated)
+std::string with_attributes(int count, int repeated, const std::string &ending = "")
 {
     std::string text = "<a";
     for (int i = 0; i < count; ++i)
-        text += " name" + std::to_string(i == repeated ? 3 : i) + "='" + std::to_string(i) + "'";
+        text += " name" + std::to_string(i == repeated ? 3 : i) + ending + "='" + std::to_string(i) + "'";
     return text + ">";
 }
 
@@ -188,6 +188,18 @@ TEST(XmlStartTag, the_first_repeated_name_is_found_among_any_number)
             EXPECT_EQ(tag.part.lex.fault.error, XML_ERROR_DUPLICATE_ATTRIBUTE);
             EXPECT_EQ(tag.part.index_of(tag.part.lex.fault.at), text.find("name3=", text.find("name3=") + 1));
         }
+    }
+}
+
+TEST(XmlStartTag, the_first_repeated_name_is_found_among_names_of_one_hash)
+{
+    const std::string ending = "-and-sixteen-octets";  // of more the hash sees nothing
+    EXPECT_EQ(tag_reading(with_attributes(100, -1, ending)).result, lexed::ok);
+    for (int repeated : {4, 52, 99}) {
+        const std::string text = with_attributes(100, repeated, ending);
+        tag_reading tag(text);
+        ASSERT_EQ(tag.result, lexed::bad);
+        EXPECT_EQ(tag.part.index_of(tag.part.lex.fault.at), text.find("name3-", text.find("name3-") + 1));
     }
 }
 
