@@ -82,5 +82,7 @@ broken 's/base="BaseEntityType"/base="BaseConsoleType"/' 'contains itself'
 broken 's/before="size"/before="nothing"/' 'no element "nothing" to stand at'
 broken 's/ORVL_PCI_GEN_GEN4/ORVL_PCI_GEN_GEN3/' 'ORVL_PCI_GEN_GEN3 exists already'
 broken 's/<xs:length value="1"\/>//' 'hexadecimal without a length'
+broken 's/<xs:complexType name="NodeInfoType">/<xs:complexType>/' 'a complex type without a name'
+broken 's/<xs:complexType name="NodeInfoType">/<xs:complexType name="SpiPortType">/' 'SpiPortType: named twice'
 
 [ "$failures" -eq 0 ]

@@ -21,15 +21,33 @@ bool has_derived(const schema &s, const std::string &name)
     return std::any_of(s.types.begin(), s.types.end(), [&](const auto &t) { return t.base == name; });
 }
 
+namespace
+{
+
+using derived_by_base = std::map<std::string, std::vector<std::string>>;
+
+void add_branch(const derived_by_base &derived, const std::string &name, std::vector<std::string> &family)
+{
+    family.push_back(name);
+    auto found = derived.find(name);
+    if (found == derived.end())
+        return;
+    for (const std::string &below : found->second)
+        add_branch(derived, below, family);
+}
+
+}  // namespace
+
 std::vector<std::string> family_of(const schema &s, const std::string &base)
 {
-    std::vector<std::string> family = {base};
-    for (const std::string &name : s.tag_order) {
-        if (type_named(s, name).base != base)
-            continue;
-        std::vector<std::string> branch = family_of(s, name);
-        family.insert(family.end(), branch.begin(), branch.end());
-    }
+    std::map<std::string, const std::string *> base_of;
+    for (const complex_type &type : s.types)
+        base_of[type.name] = &type.base;
+    derived_by_base derived;
+    for (const std::string &name : s.tag_order)
+        derived[*base_of.at(name)].push_back(name);
+    std::vector<std::string> family;
+    add_branch(derived, base, family);
     return family;
 }
 

@@ -16,6 +16,7 @@ const std::map<std::string, std::string> number_types = {
 struct reader {
     schema &s;
     std::string message;
+    std::set<std::string> type_names;
 };
 
 bool fail(reader &r, const std::string &message)
@@ -151,6 +152,11 @@ bool read_complex_type(reader &r, const xml_node &node)
 {
     complex_type type;
     type.name = attribute(node, "name");
+    // Without one it would be the base of every type that has none, itself included.
+    if (type.name.empty())
+        return fail(r, "a complex type without a name");
+    if (!r.type_names.insert(type.name).second)
+        return fail(r, type.name + ": named twice");
     type.documentation = documentation(node);
     const xml_node *body = &node;
     if (const xml_node *complex = child(node, "complexContent")) {
@@ -254,7 +260,7 @@ bool sort_types(reader &r)
 
 bool read_schema(const xml_node &root, schema &s, std::string &message)
 {
-    reader r{s, ""};
+    reader r{s, "", {}};
     bool read = root.name == "schema" || fail(r, "not a schema");
     for (const xml_node &node : root.children) {
         if (!read)
