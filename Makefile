@@ -6,11 +6,12 @@ export CTEST_PARALLEL_LEVEL ?= $(JOBS)
 # Set to an empty value to leave the machine's packages alone.
 INSTALL ?= yes
 PREFIX ?= /usr/local
-# For each fuzz target.
-FUZZ_SECONDS ?= 20
 # Of the long runs.
 SOAK_SECONDS ?= 1800
 SOAK_CALLS ?= 10000000
+# Of each fuzz target by check-fuzz; of processor time altogether by fuzz-soak.
+check-fuzz: FUZZ_SECONDS ?= 10
+fuzz-soak: FUZZ_SECONDS ?= 14400
 BUILD := build/dev
 
 # packages(SET): installs what is missing of one of the package sets
@@ -32,7 +33,7 @@ endef
 .PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
 .PHONY: check-clang check-asan check-tsan check-fuzz
-.PHONY: soak soak-memory soak-threads
+.PHONY: soak soak-memory soak-threads fuzz-soak
 
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 18
@@ -88,13 +89,13 @@ check-tsan: ## the locked entry points under the thread sanitizer
 	$(call build,tsan,--target tsan_tests)
 	ctest --preset tsan -L threads
 
-check-fuzz: ## a minute of fuzzing, starting from the kept corpus
+check-fuzz: ## two minutes of fuzzing, starting from the kept corpus
 	$(call packages,build check)
-	$(call build,fuzz,--target fuzz_document fuzz_open fuzz_catalogue fuzz_roads)
+	$(call build,fuzz,--target fuzz_targets)
 	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
 # What takes longer than continuous integration has time for.
-soak: soak-threads soak-memory ## everything that runs for hours: threads, memory
+soak: soak-threads soak-memory fuzz-soak ## everything that runs for hours: threads, memory, fuzzing
 
 soak-threads: ## ten million calls of eight threads under the thread sanitizer
 	$(call packages,build test check)
@@ -105,6 +106,11 @@ soak-memory: ## half an hour of opening, asking and closing in one process: memo
 	$(call packages,build test)
 	$(call build,dev,--target inv_soak)
 	$(BUILD)/tests/stress/inv_soak --seconds $(SOAK_SECONDS)
+
+fuzz-soak: ## hours of fuzzing, one target after the other: build/fuzz-soak.txt, one line for each ten minutes
+	$(call packages,build check)
+	$(call build,fuzz,--target fuzz_targets)
+	tools/fuzz_soak.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
 check-format: ## formatting of all sources
 	$(call packages,check)
@@ -129,6 +135,7 @@ regenerate: ## rewrite the generated sources and documents
 	$(call packages,build test)
 	$(call build,dev,--target schemac schemaman)
 	$(BUILD)/tools/schemac/schemac schema/OrvelianInventory.xsd --source-dir shared_pkg/common/schema/parser/src --header-dir shared_pkg/common/schema/parser/include/inv_parser
+	tools/fuzz_dictionary.py schema/OrvelianInventory.xsd > fuzz/inventory.dict
 	tools/trace_docs.sh shared_pkg/common/schema/parser/src/frame/trace_messages.def > docs/trace-messages.md
 	$(BUILD)/tools/schemaman/schemaman schema/OrvelianInventory.xsd > docs/man/inventory.5
 	$(call build,dev,--target invctl)

@@ -3,18 +3,13 @@
 #   fuzz_smoke.sh FOLDER-OF-TARGETS SECONDS
 set -eu
 cd "$(dirname "$0")/.."
+. tools/fuzz_targets.sh
 mkdir -p build/findings
-for target in document open catalogue roads; do
+for target in $FUZZ_TARGETS; do
     work=$(mktemp -d)
-    dictionary=
-    case $target in
-    catalogue) seeds=inventories ;;
-    roads) seeds= dictionary=-dict=fuzz/xml.dict ;;
-    *) seeds=tests/documents/data ;;
-    esac
     echo "fuzz_$target for $2 seconds"
-    # shellcheck disable=SC2086 -- a list of folders, an option or nothing
-    "$1/fuzz_$target" -max_total_time="$2" -max_len=16384 -timeout=20 -rss_limit_mb=4096 -print_final_stats=0 -verbosity=0 \
-        -artifact_prefix="build/findings/$target-" $dictionary "$work" "fuzz/corpus/$target" $seeds
+    # shellcheck disable=SC2046 -- lists of options and folders
+    "$1/fuzz_$target" $(fuzz_options "$target") -max_total_time="$2" -print_final_stats=0 -verbosity=0 \
+        -artifact_prefix="build/findings/$target-" "$work" $(fuzz_seeds "$target")
     rm -rf "$work"
 done

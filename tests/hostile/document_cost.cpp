@@ -1,0 +1,162 @@
+#include "hostile/document_cost.h"
+
+#include "generate_document.h"
+#include "support/fake_platform.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <fstream>
+#include <sys/mman.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace hostile
+{
+
+uint64_t answers_found;
+
+namespace
+{
+
+constexpr int runs = 3;
+constexpr unsigned most_seconds = 120;
+
+// A line of /proc/self/status, in octets.
+uint64_t status_octets(const std::string &name)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        uint64_t kilo = 0;
+        if (word == name + ":" && status >> kilo)
+            return kilo * 1024;
+    }
+    return 0;
+}
+
+// From here on the greatest resident size counts anew.
+void reset_peak()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+double processor_seconds()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+int64_t entities_of(inv_xml_handle *handle)
+{
+    sch_eid_type *eids = nullptr;
+    uint32_t count = 0;
+    if (handle->root != nullptr)
+        inv_parser_get_eid_tree(handle, ORVL_ENTITY_OWNER_TYPE_ALL, nullptr, &eids, &count);
+    inv_parser_free_eid_tree(eids);
+    return count;
+}
+
+cost measure(const document &d, uint32_t pi_hw_type, questions ask)
+{
+    cost found;
+    fake_platform::set_only_file_name(d.path.c_str());
+    reset_peak();
+    const uint64_t before = status_octets("VmRSS");
+    const double start = processor_seconds();
+    inv_xml_handle *handle = inv_parser_open_xml_file(0, pi_hw_type, 0, "");
+    found.entities = handle == nullptr ? refused : entities_of(handle);
+    if (handle != nullptr && ask != nullptr)
+        ask(handle);
+    inv_parser_close_xml_file(handle);
+    found.seconds = processor_seconds() - start;
+    const uint64_t peak = status_octets("VmHWM");
+    found.peak_octets = peak > before ? peak - before : 0;
+    found.answers = answers_found;
+    return found;
+}
+
+void keep_cheaper(cost *kept, const cost &next, int run)
+{
+    if (run > 0 && kept->entities != next.entities)
+        kept->entities = died;
+    else if (run == 0)
+        *kept = next;
+    kept->seconds = std::min(kept->seconds, next.seconds);
+    kept->peak_octets = std::min(kept->peak_octets, next.peak_octets);
+}
+
+}  // namespace
+
+document make_document(const std::string &text)
+{
+    return make_sparse_document(text, text.size());
+}
+
+document make_sparse_document(const std::string &text, uint64_t octets)
+{
+    document made;
+    made.descriptor = memfd_create("hostile", 0);
+    made.octets = octets;
+    size_t written = 0;
+    while (written < text.size()) {
+        ssize_t now = write(made.descriptor, text.data() + written, text.size() - written);
+        if (now <= 0)
+            return made;
+        written += static_cast<size_t>(now);
+    }
+    if (ftruncate(made.descriptor, static_cast<off_t>(octets)) == 0)
+        made.path = "/proc/self/fd/" + std::to_string(made.descriptor);
+    return made;
+}
+
+void remove_document(document *d)
+{
+    close(d->descriptor);
+    *d = {};
+}
+
+cost cost_of(const document &d, uint32_t pi_hw_type, questions ask)
+{
+    cost found;
+    int ends[2];
+    if (pipe(ends) != 0)
+        return found;
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(most_seconds);
+        const cost measured = measure(d, pi_hw_type, ask);
+        const bool told = write(ends[1], &measured, sizeof measured) == sizeof measured;
+        _exit(told ? 0 : 1);
+    }
+    close(ends[1]);
+    cost measured;
+    if (read(ends[0], &measured, sizeof measured) == sizeof measured)
+        found = measured;
+    close(ends[0]);
+    waitpid(child, nullptr, 0);
+    return found;
+}
+
+comparison compare(const document &of_hostile, uint32_t pi_hw_type, const document &plain, questions ask)
+{
+    constexpr uint32_t line_card = 3;
+    comparison found;
+    for (int run = 0; run < (is_instrumented() ? 1 : runs); ++run) {
+        keep_cheaper(&found.of_hostile, cost_of(of_hostile, pi_hw_type, ask), run);
+        keep_cheaper(&found.of_plain, cost_of(plain, line_card, ask), run);
+    }
+    return found;
+}
+
+std::string plain_text(uint64_t octets)
+{
+    constexpr uint32_t probe = 1000;
+    inv_bench::document_options options;
+    options.entities = probe;
+    const uint64_t of_probe = inv_bench::generate_document(options).size();
+    options.entities = static_cast<uint32_t>(std::max<uint64_t>(octets * probe / of_probe, 2));
+    return inv_bench::generate_document(options);
+}
+
+}  // namespace hostile
