@@ -285,7 +285,9 @@ int32_t pass_fault(xb_context *ctx, content_scope &scope, int32_t *position, con
         return resume_at_tag(ctx, status);
     }
     const int32_t later = tag.is_start() ? later_row(ctx, scope, *position, tag) : -1;
-    if (later >= 0 && content.items[later].kind == item_kind::group) {
+    // A group behind a required row that is missing has to wait until that one was reported.
+    const bool is_next = later >= 0 && later <= required_row(content, *position);
+    if (is_next && content.items[later].kind == item_kind::group) {
         resume_at_tag(ctx, XB_E_ELEMENT_MISSING);  // the group's own lookup says what is missing
         *row = later;
         return 0;
