@@ -32,7 +32,7 @@ endef
 
 .PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
-.PHONY: check-clang check-asan check-tsan check-fuzz
+.PHONY: check-clang check-asan check-tsan check-fuzz coverage
 .PHONY: soak soak-memory soak-threads fuzz-soak
 
 help: ## this list
@@ -115,6 +115,11 @@ fuzz-soak: ## hours of fuzzing, one target after the other: build/fuzz-soak.txt,
 check-format: ## formatting of all sources
 	$(call packages,check)
 	tools/check_format.sh
+
+coverage: ## lines and branches of library and platform that the tests run; fails below 98 % and 95 %
+	$(call packages,build test coverage)
+	$(call build,coverage)
+	tools/coverage.sh build/coverage $(JOBS)
 
 bench: ## speed and memory against other libraries; writes bench/RESULTS.md, fails when a limit is missed
 	$(call packages,build bench)

@@ -1,12 +1,13 @@
 #!/bin/sh
 # Installs the Debian packages that the named sets need and the machine lacks, and says so.
-#   tools/install_packages.sh build [test] [check] [bench] [package]
+#   tools/install_packages.sh build [test] [coverage] [check] [bench] [package]
 set -eu
 
 packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build libexpat1-dev libboost-dev libcli11-dev nlohmann-json3-dev ;;
     test) echo libgtest-dev libgmock-dev libxml2-utils python3-jsonschema ;;
+    coverage) echo gcovr ;;
     bench) echo libpugixml-dev librapidxml-dev libxml2-dev libbenchmark-dev ;;
     check) echo clang libclang-rt-14-dev clang-format clang-tidy cppcheck abigail-tools pkgconf binutils ;;
     package) echo debhelper dpkg-dev fakeroot lintian debootstrap ;;

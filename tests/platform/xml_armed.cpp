@@ -280,4 +280,41 @@ TEST(XmlArmed, every_single_failing_request_is_survived_without_a_leak)
     }
 }
 
+TEST(XmlArmed, what_may_stand_there_is_told_of_an_error_only)
+{
+    armed_document a("<a/>", {"a"});
+    const char *const words[] = {"b"};
+    rtxErrAddWords(&a.ctx, words, 1);
+    rtxErrAddRange(&a.ctx, 1, 2);
+    rtxErrAddMisplacement(&a.ctx, XB_NAME_UNKNOWN);
+    rtxErrSetNewData(&a.ctx, XB_E_BAD_INTEGER, "s", 1);
+    EXPECT_EQ(a.details(0).word_count, 0u);
+    EXPECT_FALSE(a.details(0).has_range);
+    EXPECT_NE(a.details(0).misplaced, XB_NAME_UNKNOWN);
+}
+
+TEST(XmlArmed, a_context_that_is_not_armed_tells_no_tag_ahead)
+{
+    xml_document document("<a><b/></a>");
+    const char *local = "kept";
+    const char *name = "kept";
+    uint64_t offset = 7;
+    EXPECT_EQ(rtxPeekTag(&document.ctx, &local, &name, &offset), XB_E_BAD_STATE);
+    EXPECT_STREQ(local, "kept");
+    EXPECT_STREQ(name, "kept");
+    EXPECT_EQ(offset, 7u);
+}
+
+TEST(XmlArmed, a_tag_to_resume_at_that_cannot_be_read_is_final)
+{
+    armed_document a("<a>text<", {"a"});
+    rtxErrSetNewData(&a.ctx, XB_E_TEXT_UNEXPECTED, "s", 1);
+    EXPECT_EQ(rtxResumeAtTag(&a.ctx, XB_E_TEXT_UNEXPECTED, false), XB_E_MALFORMED);
+    ASSERT_EQ(rtxErrGetCount(&a.ctx), 2u);
+    xb_error last = {};
+    ASSERT_TRUE(rtxErrGet(&a.ctx, 1, &last));
+    EXPECT_EQ(last.status, XB_E_MALFORMED);
+    EXPECT_TRUE(last.fatal);
+}
+
 }  // namespace

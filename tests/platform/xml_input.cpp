@@ -146,4 +146,15 @@ TEST(XmlInput, a_context_reads_one_document_after_another_and_keeps_what_it_deco
     EXPECT_EQ(rtxErrGetStatus(&context.ctx), XB_E_TEXT_UNEXPECTED);
 }
 
+TEST(XmlInput, closing_what_was_never_opened_does_nothing)
+{
+    xb_context none = {};
+    rtxStreamClose(&none);
+    EXPECT_EQ(none.state, nullptr);
+    rtxStreamClose(nullptr);
+    file_context context;
+    rtxStreamClose(&context.ctx);
+    EXPECT_EQ(rtXmlpCreateReader(&context.ctx), XB_E_BAD_STATE);
+}
+
 }  // namespace

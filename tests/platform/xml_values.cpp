@@ -321,4 +321,14 @@ TEST(XmlValues, open_content_is_kept_with_its_markup)
     EXPECT_EQ(text, nullptr);
 }
 
+TEST(XmlValues, any_content_of_a_selected_attribute_is_its_text)
+{
+    xml_document document("<r a='x &lt; y'>content</r>");
+    ASSERT_EQ(rtXmlpMatchStartTag(&document.ctx, "r", -1), XB_OK);
+    ASSERT_GE(rtXmlpSelectAttribute(&document.ctx, 0), 0);
+    char *text = nullptr;
+    EXPECT_EQ(rtXmlpDecAny(&document.ctx, &text), XB_OK);
+    EXPECT_STREQ(text, "x < y");
+}
+
 }  // namespace

@@ -354,6 +354,27 @@ TEST_F(SlotLookup, the_lists_of_another_file_are_searched_literally)
     EXPECT_EQ(length_of(handle.i2c_cc_slot_lists[line_card]), 1u);
 }
 
+TEST_F(SlotLookup, a_list_that_is_there_already_is_searched_literally_when_its_table_cannot_be_made)
+{
+    sch_cc_slot_xml_inst_type *elements[3];
+    uint16_t key = 300;
+    for (auto *&element : elements) {
+        element = inv::record_new<sch_cc_slot_xml_inst_type>();
+        element->key = key;
+        key = static_cast<uint16_t>(key + 256);
+        parser_insert_cc_slot_xml_inst(handle.i2c_cc_slot_lists, line_card, element);
+    }
+    const uint64_t live = counting_memory::live();
+    for (uint64_t n = 1; n <= 4; ++n) {
+        inv::slot_lookup_scope scope(&handle);
+        counting_memory::fail_at(n);
+        EXPECT_EQ(inv::find_slot_element(handle.i2c_cc_slot_lists, line_card, 556), elements[1]) << n;
+        EXPECT_TRUE(counting_memory::failed()) << n;
+        EXPECT_EQ(counting_memory::live(), live) << n;
+        counting_memory::reset();
+    }
+}
+
 // Each request of a filing sequence fails once; only requests for records may show.
 TEST_F(SlotLookup, memory_running_out_for_the_tables_changes_nothing_that_is_filed)
 {

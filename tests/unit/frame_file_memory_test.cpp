@@ -438,3 +438,21 @@ TEST_F(FileMemory, random_requests_over_many_files_stay_apart_until_their_file_g
         handle_forget(each.handle);
     }
 }
+
+TEST_F(FileMemory, a_small_record_without_memory_for_its_block_is_refused_and_can_be_asked_for_again)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    // A new mapping and its place among the ranges.
+    for (uint64_t n : {1, 2}) {
+        counting_memory::fail_at(n);
+        EXPECT_EQ(record_new<sample_record>(), nullptr) << n;
+        EXPECT_TRUE(counting_memory::failed()) << n;
+        counting_memory::reset();
+        EXPECT_EQ(counting_memory::mapped_octets(), mapped_before) << n;
+    }
+    auto *record = record_new<sample_record>();
+    end_load(false);
+    EXPECT_TRUE(frame::is_in_chunk(record));
+    handle_forget(handle);
+}

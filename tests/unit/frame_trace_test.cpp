@@ -1,10 +1,12 @@
 #include "frame/trace.h"
 
+#include "frame/channel.h"
 #include "support/trace_recorder.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -196,4 +198,15 @@ TEST_F(Trace, answers_what_the_trace_library_answers)
     trace_recorder::start();
     trace_recorder::set_write_result(28);
     EXPECT_EQ(trace<msg::close_null_handle>(), 28u);
+}
+
+TEST_F(Trace, without_a_handle_an_open_channel_is_not_written_to)
+{
+    trace_recorder::start();
+    void *channel = std::exchange(frame::inv_schema_trace_handle, nullptr);
+    EXPECT_EQ(trace<msg::file_closed>("a.xml"), 22u);
+    EXPECT_TRUE(trace_recorder::lines().empty());
+    frame::inv_schema_trace_handle = channel;
+    EXPECT_EQ(trace<msg::file_closed>("a.xml"), 0u);
+    EXPECT_EQ(trace_recorder::lines().size(), 1u);
 }

@@ -100,6 +100,49 @@ TEST(EidLookup, an_entity_whose_triple_was_changed_is_found_by_its_new_eid_only)
     EXPECT_EQ(inv::find_entity_of(&tree.handle, &after), child);
 }
 
+TEST(EidLookup, an_entity_whose_subtype_outgrew_the_eid_is_no_longer_found)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    eid_chain_node *child = tree.add(root, {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 1, 1}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), child);
+    // The low octet, which is all that an EID has, stays.
+    child->record->subtype = 257;
+    EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), nullptr);
+}
+
+TEST(EidLookup, a_handle_with_another_root_is_looked_up_anew)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    eid_chain_node *child = tree.add(root, {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type whole = eid_of({{9, 1, 0}, {8, 1, 1}});
+    sch_eid_type part = eid_of({{8, 1, 1}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &whole), child);
+    root_eid = tree.handle.root = child;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &whole), nullptr);
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &part), child);
+    }
+}
+
+TEST(EidLookup, the_tree_in_use_answers_for_a_handle_of_another_tree)
+{
+    known_sample tree;
+    tree.add(tree.add(nullptr, {9, 1, 0}), {8, 1, 1});
+    sample other;
+    eid_chain_node *there = other.add(other.add(nullptr, {9, 1, 0}), {8, 2, 2});
+    root_eid = other.handle.root;
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 2, 2}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), there);
+}
+
 TEST(EidLookup, without_memory_the_literal_search_answers_and_nothing_is_traced_or_lost)
 {
     uint64_t before = counting_memory::live();

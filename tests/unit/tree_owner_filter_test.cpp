@@ -201,6 +201,20 @@ TEST_F(OwnerFilter, answers_null_and_0_when_nothing_is_left_and_requests_no_memo
     EXPECT_EQ(0u, count);
 }
 
+TEST_F(OwnerFilter, without_a_place_for_the_answer_nothing_is_written)
+{
+    sample tree;
+    root_eid = tree.add(nullptr, {3, 0, 0}, 1);
+    sch_eid_type array[] = {eid_of({{3, 0, 0}})};
+    sch_eid_type *out = array;
+    uint32_t count = 9;
+    parser_filter_eid_by_owner(array, 1, nullptr, &count, 1);
+    EXPECT_EQ(9u, count);
+    parser_filter_eid_by_owner(array, 1, &out, nullptr, 1);
+    EXPECT_EQ(array, out);
+    EXPECT_EQ(0u, counting_memory::requests());
+}
+
 TEST_F(OwnerFilter, drops_an_entity_without_record)
 {
     sample tree;

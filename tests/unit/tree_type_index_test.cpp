@@ -150,4 +150,41 @@ TEST(TypeIndex, a_handle_that_the_registry_did_not_make_keeps_nothing)
     global_eid = nullptr;
 }
 
+TEST(TypeIndex, leaves_out_nodes_without_record)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {2, 1, 0});
+    eid_chain_node *bare = tree.add(root, {0, 0, 1});
+    tree.add(bare, {0, 0, 2});
+    bare->record = nullptr;
+    expect_all_answers(&tree.handle);
+    root_eid = tree.handle.root;
+    const inv::type_index *index = inv::type_index_for(&tree.handle, inv::entities_of_type(0));
+    ASSERT_NE(index, nullptr);
+    EXPECT_EQ(inv::count_entities(*index, inv::entities_of_type(0)), 1u);
+}
+
+TEST(TypeIndex, is_for_queries_of_one_type_in_the_current_tree)
+{
+    known_sample tree;
+    tree.add(tree.add(nullptr, {2, 1, 0}), {1, 1, 1});
+    root_eid = tree.handle.root;
+    EXPECT_NE(inv::type_index_for(&tree.handle, inv::entities_of_type(255)), nullptr);
+    EXPECT_EQ(inv::type_index_for(&tree.handle, inv::entities_of_type(256)), nullptr);
+    EXPECT_EQ(inv::type_index_for(&tree.handle, inv::every_entity()), nullptr);
+    root_eid = root_eid->first_child;
+    EXPECT_EQ(inv::type_index_for(&tree.handle, inv::entities_of_type(1)), nullptr);
+}
+
+TEST(TypeIndex, is_made_again_when_the_handle_gets_another_root)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {2, 1, 0});
+    tree.add(root, {1, 1, 1});
+    expect_answers_of_walk(&tree.handle, 2, INV_ANY_SUBTYPE);
+    tree.handle.root = root->first_child;
+    expect_answers_of_walk(&tree.handle, 2, INV_ANY_SUBTYPE);
+    expect_answers_of_walk(&tree.handle, 1, INV_ANY_SUBTYPE);
+}
+
 }  // namespace

@@ -152,6 +152,18 @@ TEST_F(Walks, of_the_chain_prints_the_root_without_its_parent_and_siblings_with_
               testing::internal::GetCapturedStdout());
 }
 
+TEST_F(Walks, of_the_chain_leave_out_nodes_without_record)
+{
+    eid_chain_node *sibling = tree.add(nullptr, {5, 260, 65535});
+    sibling->parent = root;
+    root->record = nullptr;
+    testing::internal::CaptureStdout();
+    parser_display_eid_chain();
+    fflush(stdout);
+    EXPECT_EQ("&*&*&*&*&*&*&\neid.type 5\neid.subtype 260\neid.instance 65535\n&*&*&*&*&*&*&\n",
+              testing::internal::GetCapturedStdout());
+}
+
 TEST_F(Walks, of_an_empty_chain_prints_nothing)
 {
     root_eid = nullptr;
