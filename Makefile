@@ -12,6 +12,9 @@ SOAK_CALLS ?= 10000000
 # Of each fuzz target by check-fuzz; of processor time altogether by fuzz-soak.
 check-fuzz: FUZZ_SECONDS ?= 10
 fuzz-soak: FUZZ_SECONDS ?= 14400
+# What `make mutation` draws; more of its options in ARGS.
+COUNT ?= 500
+SEED ?= 1
 BUILD := build/dev
 
 # packages(SET): installs what is missing of one of the package sets
@@ -33,7 +36,7 @@ endef
 .PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
 .PHONY: check-clang check-asan check-tsan check-fuzz coverage
-.PHONY: soak soak-memory soak-threads fuzz-soak
+.PHONY: soak soak-memory soak-threads fuzz-soak mutation
 
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 18
@@ -95,7 +98,7 @@ check-fuzz: ## two minutes of fuzzing, starting from the kept corpus
 	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
 # What takes longer than continuous integration has time for.
-soak: soak-threads soak-memory fuzz-soak ## everything that runs for hours: threads, memory, fuzzing
+soak: soak-threads soak-memory fuzz-soak mutation ## everything that runs for hours: threads, memory, fuzzing, mutants
 
 soak-threads: ## ten million calls of eight threads under the thread sanitizer
 	$(call packages,build test check)
@@ -111,6 +114,10 @@ fuzz-soak: ## hours of fuzzing, one target after the other: build/fuzz-soak.txt,
 	$(call packages,build check)
 	$(call build,fuzz,--target fuzz_targets)
 	tools/fuzz_soak.sh build/fuzz/fuzz $(FUZZ_SECONDS)
+
+mutation: ## tests against a library with one fault at a time; fails when under 90 % are found (an hour or two)
+	$(call packages,build test mutation)
+	tools/mutation/mutate.py --count $(COUNT) --seed $(SEED) --jobs $(JOBS) $(ARGS)
 
 check-format: ## formatting of all sources
 	$(call packages,check)

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Installs the Debian packages that the named sets need and the machine lacks, and says so.
-#   tools/install_packages.sh build [test] [coverage] [check] [bench] [package]
+#   tools/install_packages.sh build [test] [coverage] [check] [bench] [package] [mutation]
 set -eu
 
 packages_of() {
@@ -10,6 +10,7 @@ packages_of() {
     coverage) echo gcovr ;;
     bench) echo libpugixml-dev librapidxml-dev libxml2-dev libbenchmark-dev ;;
     check) echo clang libclang-rt-14-dev clang-format clang-tidy cppcheck abigail-tools pkgconf binutils ;;
+    mutation) echo python3-clang-14 ;;
     package) echo debhelper dpkg-dev fakeroot lintian debootstrap ;;
     *) echo "unknown package set: $1" >&2; exit 2 ;;
     esac

@@ -65,11 +65,12 @@ TEST_F(IndexFailures, a_refused_destination_is_traced_freed_and_reported)
     EXPECT_EQ(i2c_node(2), nullptr);
 }
 
-TEST_F(IndexFailures, a_known_destination_needs_no_insertion)
+TEST_F(IndexFailures, a_known_destination_needs_neither_insertion_nor_memory)
 {
     sch_i2c_dest_type record = {};
     EXPECT_EQ(parser_retrieve_i2c_dest_data(&record, &i2c, 1, nullptr), 0u);
     inserts_to_accept = 0;
+    counting_memory::fail_at(1, true);
     EXPECT_EQ(parser_retrieve_i2c_dest_data(&record, &i2c, 9, nullptr), 0u);
     EXPECT_EQ(i2c_node(1)->channel, 9u);
 }

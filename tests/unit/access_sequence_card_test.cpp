@@ -311,4 +311,19 @@ TEST_F(PcieFromControlCard, one_hop_is_dropped_also_when_the_slots_port_is_0)
     inv_parser_free_remote_i2c_access_sequence(made);
 }
 
+// Behind the PCIe lists stands the root of an index, which must not be taken for an element.
+TEST_F(PcieFromControlCard, a_node_type_behind_the_last_has_no_list)
+{
+    sch_cc_slot_xml_inst_type no_element = {};
+    no_element.key = position;
+    no_element.slot0_parent_instance = 41;
+    sch_cc_slot_xml_inst_type *behind = &no_element;
+    static_assert(sizeof(avl_root) == sizeof behind);
+    memcpy(static_cast<void *>(&card.handle.i2c_xml_inst_index), &behind, sizeof behind);
+    EXPECT_EQ(build(INV_CC_SLOT_LIST_COUNT), 0u);
+    EXPECT_EQ(made->slot0, nullptr);
+    inv_parser_free_remote_i2c_access_sequence(made);
+    card.handle.i2c_xml_inst_index = {};
+}
+
 }  // namespace

@@ -480,4 +480,35 @@ TEST_F(RemoteIdprom, each_allocation_that_fails_is_traced_and_nothing_is_left)
                       {{77}, {101, 73, 78}, {71, 78}, {58, 79}, {80}, {58, 81}, {82}});
 }
 
+TEST_F(RemoteIdprom, without_memory_for_the_pair_the_result_is_1)
+{
+    counting_memory::fail_at(1);
+    EXPECT_EQ(build(&card.handle), 1u);
+    counting_memory::reset();
+}
+
+class NullRecords : public SequenceTest
+{
+protected:
+    void TearDown() override
+    {
+        answer_null_records = false;
+        SequenceTest::TearDown();
+    }
+};
+
+// 1 is an instance as any other: only 0 is none.
+TEST_F(NullRecords, a_device_without_record_has_no_way_from_a_card)
+{
+    hand_made_file card, device;
+    card.chain<i2c>(40, 2);
+    card.slot<i2c>(line_card, 3, 41, 7, 0, 0);
+    device.chain<i2c>(1, 2);
+    sch_eid_type eid = device.eid(2);
+    auto *made = untouched<sch_i2c_access_seq_pair_type>();
+    answer_null_records = true;
+    EXPECT_EQ(i2c::from_card(&card.handle, &device.handle, line_card, 3, &eid, &made), 1u);
+    EXPECT_EQ(made, untouched<sch_i2c_access_seq_pair_type>());
+}
+
 }  // namespace

@@ -1,6 +1,7 @@
 // Attributes of entities and of the few other types that have some.
 #include <gtest/gtest.h>
 
+#include "decode/steps.h"
 #include "unit/decode_support.h"
 
 using namespace decode_test;
@@ -129,6 +130,20 @@ TEST(DecodeAttributes, a_failing_one_is_recorded_and_the_walk_goes_on)
     }
 }
 
+// The step says which attribute it was: they are numbered as in the schema.
+TEST(DecodeAttributes, the_step_of_a_failing_one_tells_its_row)
+{
+    using namespace inv::decode;
+    module_document unknown(module(identity + "colour=\"red\""));
+    const uint32_t first = unknown.error().source_line - step_unknown_attribute;
+    module_document missing(module(R"( name="n")"));
+    EXPECT_EQ(missing.error().source_line, first + step_missing_attribute);
+    module_document fruable(module(identity + "fruable=\"yes\""));
+    EXPECT_EQ(fruable.error().source_line, first + step_first_attribute + 8);
+    module_document oir(module(identity + "oir=\"yes\""));
+    EXPECT_EQ(oir.error().source_line, first + step_first_attribute + 9);
+}
+
 TEST(DecodeAttributes, a_required_one_with_a_bad_value_is_not_missing_as_well)
 {
     module_document d(module(
@@ -173,6 +188,19 @@ TEST(DecodeAttributes, types_without_attributes_pass_over_whatever_stands_there)
     EXPECT_EQ(d.record.color, 3u);
     EXPECT_EQ(d.record.control, 1u);
     EXPECT_EQ(d.record.xmlns.count, 1u);
+}
+
+TEST(DecodeAttributes, whatever_was_passed_over_is_consumed)
+{
+    context d(
+        R"(<e colour="red"><color>ORVL_LED_COLOR_RED</color><control>ORVL_LED_CONTROL_ON</control></e>)");
+    ASSERT_EQ(rtXmlpCreateReader(&d.ctx), 0);
+    ASSERT_EQ(rtXmlpMatchStartTag(&d.ctx, "e", -1), 0);
+    EXPECT_TRUE(rtXmlpNeedDecodeAttributes(&d.ctx));
+    BaseLedInfoType record;
+    Init_BaseLedInfoType(&record);
+    ASSERT_EQ(XmlDT_BaseLedInfoType(&d.ctx, &record), 0);
+    EXPECT_FALSE(rtXmlpNeedDecodeAttributes(&d.ctx));
 }
 
 TEST(DecodeAttributes, a_derived_type_names_itself_and_takes_inherited_ones_first)

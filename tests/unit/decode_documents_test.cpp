@@ -3,10 +3,35 @@
 
 #include <set>
 
+#include "decode/steps.h"
 #include "support/counting_memory.h"
 #include "unit/decode_support.h"
 
 using namespace decode_test;
+
+// The linker leads the library's calls here: every test looks at the depths that the runtime is told. It
+// knows -1 for any and depths of elements, nothing else.
+extern "C" {
+int32_t __real_rtXmlpMatchStartTag(xb_context *, const char *, int32_t);
+int32_t __real_rtXmlpMatchEndTag(xb_context *, int32_t);
+int32_t __real_rtXmlpGetNextElemID(xb_context *, const xb_element_row *, int32_t, int32_t);
+
+int32_t __wrap_rtXmlpMatchStartTag(xb_context *ctx, const char *name, int32_t depth)
+{
+    EXPECT_GE(depth, -1);
+    return __real_rtXmlpMatchStartTag(ctx, name, depth);
+}
+int32_t __wrap_rtXmlpMatchEndTag(xb_context *ctx, int32_t depth)
+{
+    EXPECT_GE(depth, -1);
+    return __real_rtXmlpMatchEndTag(ctx, depth);
+}
+int32_t __wrap_rtXmlpGetNextElemID(xb_context *ctx, const xb_element_row *rows, int32_t count, int32_t depth)
+{
+    EXPECT_GE(depth, -1);
+    return __real_rtXmlpGetNextElemID(ctx, rows, count, depth);
+}
+}
 
 namespace
 {
@@ -260,6 +285,40 @@ TEST(DecodeDocuments, different_steps_have_different_numbers)
         steps.insert(d.error(d.errors() - 1).source_line);
     }
     EXPECT_EQ(steps.size(), std::size(faults));
+}
+
+uint32_t step_of(const std::string &document)
+{
+    module_document d(document);
+    EXPECT_GT(d.errors(), 0u) << document;
+    return d.error(d.errors() - 1).source_line;
+}
+
+TEST(DecodeDocuments, steps_of_a_root_count_the_reader_the_start_the_content_and_the_end)
+{
+    xb_context ctx = {};
+    ASSERT_EQ(rtXmlInitContext(&ctx), 0);
+    xb_choice choice = {};
+    EXPECT_EQ(XmlD_module(&ctx, &choice), XB_E_BAD_STATE);
+    xb_error without_input = {};
+    ASSERT_TRUE(rtxErrGet(&ctx, 0, &without_input));
+    rtxFreeContext(&ctx);
+    EXPECT_EQ(step_of("<chassis/>"), without_input.source_line + 1);
+    EXPECT_EQ(step_of("<module" + identity + "/><module/>"), without_input.source_line + 3);
+}
+
+TEST(DecodeDocuments, steps_of_a_type_tell_the_row_and_what_failed_there)
+{
+    using namespace inv::decode;
+    auto in_module = [](const std::string &content) {
+        return "<module" + identity + ">" + content + "</module>";
+    };
+    const uint32_t first_row = step_of(in_module("<pdNotes><b/></pdNotes>"));
+    EXPECT_EQ(step_of(in_module("<openQuestion><b/></openQuestion>")), first_row + steps_per_item);
+    EXPECT_EQ(step_of(in_module("<pdNotes>a</pdNotes>x")), first_row + step_next);
+    EXPECT_EQ(step_of(in_module("<hardwareVersion>a<b/></hardwareVersion>")), first_row + 5 * steps_per_item);
+    const uint32_t token = step_of(in_module("<pdHardwareModel><b/></pdHardwareModel>"));
+    EXPECT_EQ(step_of(in_module("<pdHardwareModel>x</pdHardwareModel>")), token + 1) << "text, but no token";
 }
 
 TEST(DecodeDocuments, initialisers_bring_any_memory_into_the_initial_state)

@@ -136,6 +136,11 @@ const recovery_case recovery_cases[] = {
             "<ledInfo><control>ORVL_LED_CONTROL_ON</control><color>ORVL_LED_COLOR_RED</color></ledInfo>"),
      {XB_E_ELEMENT_MISSING},
      {"<control"}},
+    {"an unknown element before a required one of the extension",
+     entity("storageSPI", "<driverId>5</driverId><bogus/><maxCapacity>01</maxCapacity>"
+                          "<channel>1</channel><blockSizeKB>01</blockSizeKB>"),
+     {XB_E_ELEMENT_MISSING},
+     {"<bogus"}},
     {"a counted element missing", entity("led", ""), {XB_E_CONSTRAINT}, {"</led"}},
     {"a counted element misspelt", entity("led", "<ledinfo/>"), {XB_E_ELEMENT_UNEXPECTED}, {"<ledinfo"}},
     {"an unknown xsi:type",
@@ -190,6 +195,9 @@ TEST(DecodeRecovery, what_stands_behind_a_failure_is_decoded)
     EXPECT_EQ(top.base.pdNotes.count, 2u);
     EXPECT_EQ(top.base.has.driverId, 0);
     EXPECT_EQ(top.has.ext, 1);
+    decoded text_in_run(module("<pdNotes>a</pdNotes>text<pdNotes>b</pdNotes><driverId>5</driverId>"));
+    EXPECT_EQ(text_in_run.top().base.pdNotes.count, 2u);
+    EXPECT_EQ(text_in_run.top().base.driverId, 5);
     ASSERT_EQ(top.ext.led.count, 2u);
     EXPECT_EQ(node<BaseLEDType>(top.ext.led, 0).ext.ledInfo.count, 2u);
     EXPECT_EQ(node<BaseLEDType>(top.ext.led, 1).ext.ledInfo.count, 1u);
@@ -242,6 +250,62 @@ TEST(DecodeRecovery, reports_say_what_may_stand_there)
     EXPECT_EQ(std::find(elements.begin(), elements.end(), "driverId"), elements.end());
     ASSERT_TRUE(rtxErrGetDetails(&d.ctx, 2, &details));
     EXPECT_EQ(details.word_count, 4u);
+}
+
+std::vector<std::string> words_of_first_error(decoded &d)
+{
+    xb_error_details details = {};
+    EXPECT_TRUE(rtxErrGetDetails(&d.ctx, 0, &details));
+    return {details.words, details.words + details.word_count};
+}
+
+TEST(DecodeRecovery, what_may_stand_there_ends_with_the_first_required_element)
+{
+    decoded in_extension(module(entity("storageSPI", "<bogus/>")));
+    EXPECT_EQ(words_of_first_error(in_extension).back(), "maxCapacity");
+    decoded behind_inherited(module(entity("storageSPI", "<driverId>5</driverId><bogus/>")));
+    EXPECT_EQ(words_of_first_error(behind_inherited), std::vector<std::string>{"maxCapacity"});
+}
+
+TEST(DecodeRecovery, what_may_stand_there_is_named_once)
+{
+    decoded d(module("<container" + identity + "xsi:type='PemBayType'><bogus/></container>"));
+    const std::vector<std::string> words = words_of_first_error(d);
+    EXPECT_EQ(std::count(words.begin(), words.end(), "i2cIDPROM"), 1);
+    EXPECT_EQ(std::count(words.begin(), words.end(), "i2cSensorAccess"), 1);
+}
+
+TEST(DecodeRecovery, all_ways_to_write_a_truth_value_are_named)
+{
+    decoded d(module("<driverRegistered>x</driverRegistered>"));
+    EXPECT_EQ(words_of_first_error(d), (std::vector<std::string>{"true", "false", "1", "0"}));
+}
+
+TEST(DecodeRecovery, reports_say_whether_the_element_is_known_elsewhere)
+{
+    const std::pair<const char *, int> cases[] = {
+        {"<bogus/>", XB_NAME_UNKNOWN},
+        {"<driverId>5</driverId><hardwareVersion>a</hardwareVersion>", XB_NAME_ELSEWHERE},
+        {"<pdNotes xmlns='urn:a'>a</pdNotes>", XB_NAME_FOREIGN},
+        {"<driverId>x</driverId>", XB_NAME_FITS},
+    };
+    for (const auto &[content, expected] : cases) {
+        decoded d(module(content));
+        xb_error_details details = {};
+        ASSERT_TRUE(rtxErrGetDetails(&d.ctx, 0, &details)) << content;
+        EXPECT_EQ(details.misplaced, expected) << content;
+    }
+}
+
+TEST(DecodeRecovery, an_element_out_of_order_is_decoded_and_a_second_one_is_not)
+{
+    decoded late(module("<driverId>5</driverId><hardwareVersion>a</hardwareVersion>"));
+    ASSERT_NE(late.record.value, nullptr);
+    ASSERT_EQ(late.top().base.has.hardwareVersion, 1);
+    EXPECT_STREQ(late.top().base.hardwareVersion, "a");
+    decoded twice(module("<driverId>5</driverId><driverId>6</driverId>"));
+    ASSERT_NE(twice.record.value, nullptr);
+    EXPECT_EQ(twice.top().base.driverId, 5);
 }
 
 TEST(DecodeRecovery, a_thousand_mistakes_cost_their_number)

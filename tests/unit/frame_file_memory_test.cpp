@@ -205,6 +205,18 @@ TEST_F(FileMemory, a_large_request_has_a_chunk_of_its_own_and_small_ones_go_on)
     handle_forget(handle);
 }
 
+TEST_F(FileMemory, a_large_request_that_fills_its_pages_has_no_more)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    EXPECT_NE(record_request(1024 * kibi - sizeof(frame::chunk)), nullptr);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before + 1024 * kibi);
+    EXPECT_NE(record_request(1024 * kibi - sizeof(frame::chunk) + 1), nullptr);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before + (1024 + 1028) * kibi);
+    end_load(false);
+    handle_forget(handle);
+}
+
 TEST_F(FileMemory, a_request_that_would_leave_much_of_a_chunk_unused_is_kept_apart)
 {
     inv_xml_handle *handle = new_handle();
@@ -226,7 +238,8 @@ TEST_F(FileMemory, absurd_sizes_are_refused)
 {
     inv_xml_handle *handle = new_handle();
     begin_load(handle);
-    EXPECT_EQ(record_request(SIZE_MAX), nullptr);
+    EXPECT_NE(record_request(16), nullptr);
+    EXPECT_EQ(record_request(SIZE_MAX), nullptr) << "not even where small ones lie";
     EXPECT_EQ(record_request(SIZE_MAX - 15), nullptr);
     EXPECT_EQ(record_request(SIZE_MAX / 2), nullptr);
     EXPECT_NE(record_request(0), nullptr);
@@ -260,6 +273,23 @@ TEST_F(FileMemory, a_failed_load_leaves_its_chunks_zeroed_to_the_next)
         }
         EXPECT_EQ(counting_memory::mapped_octets(), mapped - 9 * kibi * kibi - 4 * kibi);
     }
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, small_records_of_a_retry_lie_apart_from_the_others)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    EXPECT_NE(record_request(16), nullptr);
+    end_load(true);
+    begin_load(handle);
+    void *first = record_request(4000);
+    ASSERT_NE(first, nullptr);
+    memset(first, 0xEE, 4000);
+    void *small = record_request(16);
+    ASSERT_NE(small, nullptr);
+    EXPECT_TRUE(is_zero(small, 16));
+    end_load(false);
     handle_forget(handle);
 }
 

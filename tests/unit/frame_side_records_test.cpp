@@ -92,6 +92,35 @@ TEST_F(SideRecords, a_table_is_released_while_the_files_memory_still_stands)
     EXPECT_EQ(released, 5);
 }
 
+// A search for a handle that has none ends at an empty place.
+TEST_F(SideRecords, fill_at_most_half_of_their_table)
+{
+    std::vector<inv_xml_handle> handles(64);
+    std::vector<size_t> grown_at;
+    for (size_t i = 0; i < handles.size(); ++i) {
+        const uint64_t before = counting_memory::requests();
+        ASSERT_TRUE(frame::add_side_record(&handles[i]));
+        if (counting_memory::requests() - before == 2)
+            grown_at.push_back(i);
+    }
+    EXPECT_EQ(grown_at, (std::vector<size_t>{0, 8, 16, 32}));
+    for (inv_xml_handle &handle : handles)
+        release_file_memory(&handle);
+}
+
+TEST_F(SideRecords, the_list_of_their_chunks_takes_at_most_twice_what_it_needs)
+{
+    const uint64_t before = counting_memory::heap_octets();
+    constexpr size_t chunk_count = 17;
+    constexpr size_t range_size = 2 * sizeof(void *);
+    char places[chunk_count];
+    for (char &place : places)
+        ASSERT_TRUE(frame::add_chunk_range(&place, 1));
+    EXPECT_LE(counting_memory::heap_octets() - before, 2 * chunk_count * range_size);
+    for (char &place : places)
+        frame::remove_chunk_range(&place);
+}
+
 TEST_F(SideRecords, thousands_are_found_by_their_handles_in_any_order_of_coming_and_going)
 {
     std::mt19937 random(7);

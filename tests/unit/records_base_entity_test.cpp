@@ -94,6 +94,25 @@ TEST_F(BaseEntity, the_reserved_head_and_the_rest_of_the_pmbus_word_are_left_alo
     EXPECT_EQ(octets[pmbus_word + 3], 0xAB);
 }
 
+TEST_F(BaseEntity, the_port_lists_of_an_earlier_use_are_forgotten)
+{
+    sch_i2c_port_type i2c = {};
+    sch_spi_port_type spi = {};
+    sch_base_pcie_port_type pcie = {};
+    sch_base_entity_type record = {};
+    record.i2c_port_list = &i2c;
+    record.spi_port_list = &spi;
+    record.pcie_port_list = &pcie;
+    BaseEntityType from = decoded_entity("x");
+    parser_set_inv_file_instance(nullptr);
+    parser_retrieve_base_entity_data(&record, &from, nullptr);
+    EXPECT_EQ(record.i2c_port_list, nullptr);
+    EXPECT_EQ(record.spi_port_list, nullptr);
+    EXPECT_EQ(record.pcie_port_list, nullptr);
+    inv_schema_free_eid_chain_list(root_eid);
+    root_eid = nullptr;
+}
+
 TEST_F(BaseEntity, absent_attributes_with_a_default_keep_it_and_their_bits_stay_clear)
 {
     sch_base_entity_type record = filled(decoded_entity("x"));

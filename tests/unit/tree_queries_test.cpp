@@ -427,6 +427,15 @@ TEST_F(Queries, by_type_answer_up_to_65535_entities_and_fail_like_without_memory
     EXPECT_EQ(65538u, count);
 }
 
+TEST_F(Queries, an_answer_of_no_records_has_room_for_one)
+{
+    grow_owners();
+    const uint64_t before = counting_memory::heap_octets();
+    EXPECT_EQ(0u, by_type(owner_all, 44));
+    EXPECT_EQ(0u, count);
+    EXPECT_GE(counting_memory::heap_octets() - before, sizeof(sch_eid_type));
+}
+
 TEST_F(Queries, releasing_nothing_is_allowed)
 {
     inv_parser_free_eid_tree(nullptr);
