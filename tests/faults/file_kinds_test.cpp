@@ -182,7 +182,7 @@ TEST_P(FileKinds, a_file_that_grows_beyond_the_limit_ends_with_a_failure_of_read
     xb_context context = {};
     ASSERT_EQ(rtXmlInitContext(&context), XB_OK);
     ASSERT_EQ(rtxStreamFileCreateReader(&context, path.c_str()), XB_OK);
-    context.state->in.taken = XB_MAX_FILE_SIZE - 100000;
+    context.state->in.progress.read = XB_MAX_FILE_SIZE - 100000;
     system_calls::set_read([](int, void *buffer, size_t size) {
         memset(buffer, ' ', size);
         return static_cast<ssize_t>(size);

@@ -196,6 +196,31 @@ TEST(DecodedData, what_is_built_goes_back_while_its_siblings_are_built)
     counting_memory::reset();
 }
 
+std::string card_of_boards(int boards, size_t name_length)
+{
+    const std::string entity = "type=\"ORVL_ENTITY_TYPE_MODULE\" subtype=\"ORVL_ENTITY_SUBTYPE_MODULE_MSC\" "
+                               "replicationScope=\"ORVL_REPLICATION_TYPE_NODE\" instance=\"0\" ";
+    std::string text = "<module name=\"m\" " + entity + "xmlInstance=\"1\">";
+    for (int board = 0; board < boards; ++board)
+        text += "<module name=\"" + std::string(name_length, 'b') + "\" " + entity + "xmlInstance=\"2\"/>";
+    return text + "</module>";
+}
+
+// Wherever in a child the pages end.
+TEST(DecodedData, nothing_that_is_still_needed_goes_back)
+{
+    constexpr int boards = 8000;
+    for (size_t name_length = 1; name_length <= 48; ++name_length) {
+        counting_memory::reset();
+        inv_xml_handle *handle = open_text("boards", 3, card_of_boards(boards, name_length));
+        ASSERT_NE(handle, nullptr);
+        EXPECT_GT(counting_memory::discarded_octets(), 0u);
+        EXPECT_EQ(entities_of(handle), boards + 1u) << name_length;
+        inv_parser_close_xml_file(handle);
+    }
+    counting_memory::reset();
+}
+
 std::string text_with_slots(int slots)
 {
     std::string text =

@@ -51,7 +51,9 @@ uint32_t fill_child_modules(sch_module_type *record, const xb_data_list &modules
 {
     sch_module_type **end = end_of_list(&record->module_list);
     spent_children spent;
-    for (const xb_data_node *node = modules.head; node != nullptr; node = node->next) {
+    const xb_data_node *next = nullptr;
+    for (const xb_data_node *node = modules.head; node != nullptr; node = next) {
+        next = node->next;
         auto *child = record_new<sch_module_type>();
         if (child == nullptr) {
             trace<msg::module_child_no_memory>();

@@ -31,7 +31,7 @@ public:
     spent_children(const spent_children &) = delete;
     spent_children &operator=(const spent_children &) = delete;
 
-    // The child of the node is built: of it and of those in front nothing is looked at again.
+    // The child of the node is built: of it, its node and those in front nothing is looked at again.
     void add(const xb_data_node *node) noexcept;
 
 private:
