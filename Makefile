@@ -54,7 +54,7 @@ test: ## one build and its tests
 	ctest --preset dev
 
 # The fast ones first.
-check: check-format check-abi check-hardening check-install ## interface, analysis, second compiler, sanitizers
+check: check-format check-abi check-hardening check-install bench-short ## interface, speed, second compiler, sanitizers
 check: check-clang check-asan check-tsan check-fuzz
 
 check-abi: ## exported interface and layouts of both libraries against the committed description
