@@ -51,7 +51,7 @@ void *map_large_pages(size_t size)
 
 void *map(size_t size)
 {
-    return size % large_page == 0 ? map_large_pages(size) : map_pages(size);
+    return size > 0 && size % large_page == 0 ? map_large_pages(size) : map_pages(size);
 }
 
 void unmap(void *pages, size_t size)

@@ -35,6 +35,10 @@ void fit_chunk_to_token(expat_source &source)
 XML_Status feed_chunk(expat_source &source)
 {
     void *buffer = XML_GetBuffer(source.parser, static_cast<int>(source.chunk_size));
+    if (buffer == nullptr && source.chunk_size > source.least_chunk) {
+        source.chunk_size = source.least_chunk;
+        buffer = XML_GetBuffer(source.parser, static_cast<int>(source.chunk_size));
+    }
     if (buffer == nullptr)
         return XML_STATUS_ERROR;
     int error = 0;

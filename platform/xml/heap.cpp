@@ -107,6 +107,13 @@ bool add_chunk(heap &from, size_t size)
     return true;
 }
 
+// Where large pages cannot be had all at once the request may still be met.
+bool add_less(heap &from, size_t refused, size_t size)
+{
+    return refused >= memory::large_page &&
+           add_chunk(from, std::max(first_chunk_size, std::bit_ceil(sizeof(heap_chunk) + size)));
+}
+
 void release_chunks(heap_chunk *&list)
 {
     while (list != nullptr) {
@@ -137,7 +144,7 @@ void *allocate(heap &from, size_t size, size_t alignment)
                 from.last = own;
             return own;
         }
-        if (!add_chunk(from, chunk_size))
+        if (!add_chunk(from, chunk_size) && !add_less(from, chunk_size, size))
             return nullptr;
         start = 0;
     }
@@ -190,11 +197,16 @@ void heap_take_back(heap &from, void *ptr)
     from.newest->used = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));
 }
 
-const void *heap_forget(const heap &of, const void *from, const void *to)
+const void *heap_forget(heap &of, const void *from, const void *to)
 {
-    const heap_chunk *chunk = of.newest;
-    while (chunk != nullptr && !(is_within(chunk, from) && is_within(chunk, to)))
-        chunk = chunk->older;
+    // Most calls go on in the chunk of the one before; looking for it each time would grow with the heap.
+    const heap_chunk *chunk = of.forgetting;
+    if (chunk == nullptr || !is_within(chunk, from) || !is_within(chunk, to)) {
+        chunk = of.newest;
+        while (chunk != nullptr && !(is_within(chunk, from) && is_within(chunk, to)))
+            chunk = chunk->older;
+        of.forgetting = chunk;
+    }
     if (chunk == nullptr || chunk->mapped_size == 0)
         return to;
     const size_t unit =

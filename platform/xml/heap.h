@@ -30,7 +30,8 @@ struct heap {
     heap_chunk *own_chunks = nullptr;  // big requests, one chunk each
     size_t reserved = 0;               // octets of the regular chunks
     const document_progress *document = nullptr;
-    void *last = nullptr;  // newest allocation while it can still be taken back
+    void *last = nullptr;                    // newest allocation while it can still be taken back
+    const heap_chunk *forgetting = nullptr;  // where something was forgotten last
 };
 
 // Aligned to 16, content undefined; null when memory is out.
@@ -63,8 +64,8 @@ xb_data_node *heap_append(heap &from, xb_data_list &list, void *data);
 // Takes the newest allocation back; any other pointer is left alone.
 void heap_take_back(heap &from, void *ptr);
 
-// Gives whole pages between the two back; returns where what is left begins.
-const void *heap_forget(const heap &of, const void *from, const void *to);
+// Gives whole pages between the two back when both lie in one chunk; returns where what is left begins.
+const void *heap_forget(heap &of, const void *from, const void *to);
 
 void heap_release(heap &from);
 

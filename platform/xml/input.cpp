@@ -91,7 +91,7 @@ int open_for_reading(const char *file_name, uint64_t &size, refusal &why)
     int descriptor;
     do {
         // Not to wait for a writer when the name is that of a pipe.
-        descriptor = open(file_name, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+        descriptor = open(file_name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     } while (descriptor < 0 && errno == EINTR);
     why = descriptor < 0 ? refused_by_system(errno) : check_file(descriptor, size);
     if (descriptor < 0 || why.error == 0)

@@ -56,6 +56,7 @@ TEST(SystemMemory, what_the_system_lacks_is_null)
     EXPECT_EQ(memory::request(more_than_there_is), nullptr);
     EXPECT_EQ(memory::map(more_than_there_is), nullptr) << "with large pages";
     EXPECT_EQ(memory::map(more_than_there_is + 4096), nullptr);
+    EXPECT_EQ(memory::map(0), nullptr);
 }
 
 }  // namespace

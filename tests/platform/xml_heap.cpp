@@ -148,6 +148,23 @@ TEST(XmlHeap, a_document_that_fills_a_quarter_of_a_large_page_is_given_one)
     EXPECT_EQ(mapped_for(100 * 1024 * kibi, 1), 32 * 1024 * kibi) << "no more than so much at a time";
 }
 
+TEST(XmlHeap, a_request_is_met_where_large_pages_cannot_be_had)
+{
+    const std::string document(size_t{8} << 20, ' ');
+    heap_context context;
+    rtxStreamMemoryCreateReader(&context.ctx, document.data(), document.size());
+    const uint64_t mapped_before = counting_memory::mapped_octets();
+    counting_memory::fail_at(1);
+    auto *block = static_cast<char *>(rtxMemHeapAlloc(&context.ctx, 5000));
+    EXPECT_TRUE(counting_memory::failed());
+    ASSERT_NE(block, nullptr);
+    memset(block, 0x5A, 5000);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before);
+    counting_memory::fail_at(1, true);
+    EXPECT_EQ(rtxMemHeapAlloc(&context.ctx, 50000), nullptr);
+    counting_memory::reset();
+}
+
 TEST(XmlHeap, without_a_document_chunks_double_and_large_pages_follow_many_of_them)
 {
     EXPECT_EQ(mapped_for(0, 1), 0U);

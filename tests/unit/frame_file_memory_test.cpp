@@ -167,6 +167,24 @@ TEST_F(FileMemory, what_is_expected_takes_large_pages_that_are_half_filled_at_le
     }
 }
 
+TEST_F(FileMemory, a_request_is_met_where_large_pages_cannot_be_had)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    expect_records(8 * 1024 * kibi);
+    counting_memory::fail_at(1);
+    auto *record = static_cast<char *>(record_request(100 * kibi));
+    EXPECT_TRUE(counting_memory::failed());
+    ASSERT_NE(record, nullptr);
+    EXPECT_TRUE(is_zero(record, 100 * kibi));
+    EXPECT_EQ(counting_memory::mapped_octets() - mapped_before, 128 * kibi);
+    counting_memory::fail_at(1, true);
+    EXPECT_EQ(record_request(100 * kibi), nullptr);
+    counting_memory::reset();
+    end_load(false);
+    handle_forget(handle);
+}
+
 TEST_F(FileMemory, chunks_that_a_failed_load_left_serve_what_the_next_expects)
 {
     inv_xml_handle *handle = new_handle();
@@ -474,7 +492,7 @@ TEST_F(FileMemory, a_small_record_without_memory_for_its_block_is_refused_and_ca
     inv_xml_handle *handle = new_handle();
     begin_load(handle);
     // A new mapping and its place among the ranges.
-    for (uint64_t n : {1, 2}) {
+    for (uint64_t n : {uint64_t{1}, uint64_t{2}}) {
         counting_memory::fail_at(n);
         EXPECT_EQ(record_new<sample_record>(), nullptr) << n;
         EXPECT_TRUE(counting_memory::failed()) << n;

@@ -141,7 +141,7 @@ std::string short_name(const std::string &path)
 {
     if (path.size() < INV_FILE_NAME_SIZE)
         return path;
-    int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    int file = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     return file < 0 ? path : "/proc/self/fd/" + std::to_string(file);
 }
 

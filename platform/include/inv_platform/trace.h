@@ -1,7 +1,8 @@
 /* Trace channel: what every trace site of the library imports, and the means to read it.
  *
  * The reference implementation keeps binary records in a ring: arguments are stored, text is made
- * only when somebody looks. Every function may be called by several threads at once.
+ * only when somebody looks. Every function may be called by several threads at once, for
+ * different variables where one is given.
  */
 #ifndef INV_PLATFORM_TRACE_H
 #define INV_PLATFORM_TRACE_H

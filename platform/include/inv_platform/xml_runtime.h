@@ -183,7 +183,8 @@ void *rtxMemHeapAlloc(xb_context *ctx, size_t size);
 void rtxMemHeapFreePtr(xb_context *ctx, void *ptr);
 
 /* Says that nothing in the context's heap from `from` on and before `to` is needed any more; both came
- * from it. Whole pages in between go back to the system, the rest with rtxFreeContext(). Returns where
+ * from it, and errors recorded between them lie there, too. Whole pages in between may go back to the
+ * system early (here: when both lie in one chunk), the rest goes with rtxFreeContext(). Returns where
  * what is left begins, for the next call to go on from. */
 const void *rtxMemHeapForget(xb_context *ctx, const void *from, const void *to);
 

@@ -51,7 +51,8 @@ typedef struct sch_cc_slot_xml_inst_type {
 
 /* One inventory file, the handle that clients hold between open and close. Clients read it and
  * pass it back; only the library writes it. Opens and closes of any thread change `next` and
- * `file_count`; nothing else changes between the open and the last close. Units whose hardware types
+ * `file_count`; nothing else changes between the open and the last close, but
+ * that a handle which is only registered is filled by a later open that loads it. Units whose hardware types
  * map to one file share one handle; the type fields are the first opener's. */
 typedef struct inv_xml_handle {
     struct inv_xml_handle *next;           /* next registered handle; null at the tail */

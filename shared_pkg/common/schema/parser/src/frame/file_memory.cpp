@@ -82,15 +82,24 @@ void *take_single_chunk(file_memory *memory, size_t size)
     return contents(made);
 }
 
+// Large pages, or where they cannot be had all at once what the request needs.
+chunk *new_chunk(size_t size, size_t needed)
+{
+    chunk *made = map_chunk(size);
+    if (made == nullptr && size >= memory::large_page)
+        made = map_chunk(std::max(first_chunk_size, std::bit_ceil(sizeof(chunk) + needed)));
+    return made;
+}
+
 // Goes on to the chunk behind the current one, which a failed load may have left.
-bool next_chunk(file_memory *memory, chunk *next, size_t size)
+bool next_chunk(file_memory *memory, chunk *next, size_t size, size_t needed)
 {
     if (next == nullptr) {
-        next = map_chunk(size);
+        next = new_chunk(size, needed);
         if (next == nullptr)
             return false;
         (memory->current == nullptr ? memory->first : memory->current->next) = next;
-        memory->mapped += size;
+        memory->mapped += next->size;
     }
     memory->current = next;
     memory->free_begin = contents(next);
@@ -119,7 +128,7 @@ void *take_aligned(file_memory *memory, size_t size)
         size_t next_size = next == nullptr ? next_chunk_size(memory) : next->size;
         if (size > next_size / single_chunk_part)
             return take_single_chunk(memory, size);
-        if (!next_chunk(memory, next, next_size))
+        if (!next_chunk(memory, next, next_size, size))
             return nullptr;
     }
     void *taken = memory->free_begin;

@@ -1,7 +1,9 @@
 #include "records/spent_children.h"
 
-#include <algorithm>
 #include <functional>
+
+// A platform need not have it; all that is decoded then waits for the end of the load.
+#pragma weak rtxMemHeapForget
 
 namespace inv
 {
@@ -41,10 +43,12 @@ void spent_children::add(const xb_data_node *node) noexcept
     const xb_data_node *next = node->next;
     if (context_ == nullptr || next == nullptr || node->data == nullptr || next->data == nullptr)
         return;
+    // A node is made when what it holds is decoded and lies behind that, unless it lies elsewhere altogether.
+    if (rtxMemHeapForget == nullptr || std::less<const void *>()(next, next->data))
+        return;
     if (from_ == nullptr)
         from_ = node->data;
-    // The node of the next one may lie in front of what it holds.
-    from_ = rtxMemHeapForget(context_, from_, std::min<const void *>(next, next->data, std::less<>()));
+    from_ = rtxMemHeapForget(context_, from_, next->data);
 }
 
 }  // namespace inv

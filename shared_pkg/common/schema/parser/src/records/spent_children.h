@@ -1,9 +1,9 @@
-// What a load has decoded and already built goes back while the rest is built, so that a file's decoded
-// form and its records never stand in memory whole at one time.
+// What a load has decoded and already built goes back while the rest is built, so that most of a large file's
+// decoded form and its records do not stand in memory at the same time.
 //
-// A document lies in the decoder's heap in its own order: from one child of the root up to the next there is
-// nothing but that child. Only the children of the root are let go of, where nearly all of a large document
-// is; and only what the load itself decoded.
+// A document lies in the decoder's heap in its own order: from one child module up to the next there is
+// nothing but that child. Only outermost lists of child modules let go, where nearly all of a large document
+// is; nested lists go with the child that holds them. And only what the load itself decoded goes.
 #ifndef RECORDS_SPENT_CHILDREN_H
 #define RECORDS_SPENT_CHILDREN_H
 
@@ -12,7 +12,7 @@
 namespace inv
 {
 
-// While it lives, the first list that is built lets go of what the context decoded. One at a time.
+// While it lives, outermost lists that are built let go of what the context decoded. One at a time.
 class decoded_scope
 {
 public:

@@ -90,11 +90,18 @@ bool widen(size_t capacity)
     return true;
 }
 
+// What was expected may be more than can be had at once.
+bool widen_a_little()
+{
+    return growth.first_capacity > least_capacity && widen(least_capacity);
+}
+
 // False when memory is out.
 bool enter(eid_chain_node *node)
 {
+    const bool is_first = growth.capacity == 0;
     if ((growth.used + 1) * 4 > growth.capacity * 3 &&
-        !widen(growth.capacity == 0 ? growth.first_capacity : growth.capacity * 2))
+        !widen(is_first ? growth.first_capacity : growth.capacity * 2) && !(is_first && widen_a_little()))
         return false;
     growth_slot *slot = find_slot(node->record);
     if (slot->node == nullptr) {
