@@ -142,7 +142,7 @@ TEST(LockFree, tokens_are_named_and_found_by_any_thread)
 }
 
 struct tree_node {
-    char links[AVL_NODE_HEADER_SIZE];
+    alignas(void *) char links[AVL_NODE_HEADER_SIZE];
     uint32_t key;
 };
 
