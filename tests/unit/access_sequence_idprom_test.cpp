@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <fstream>
 #include <sstream>
+#include <unistd.h>
 
 using namespace sequence_world;
 
@@ -175,7 +176,7 @@ protected:
         std::string text = text_of(sample_folder + sample);
         size_t at = text.find(from);
         EXPECT_NE(at, std::string::npos);
-        std::string path = testing::TempDir() + "edited_" + sample;
+        std::string path = testing::TempDir() + "edited_" + std::to_string(getpid()) + sample;
         std::ofstream(path) << text.replace(at, from.size(), to);
         return path;
     }

@@ -14,6 +14,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <unistd.h>
 
 namespace
 {
@@ -76,7 +77,8 @@ const document_kind kinds[] = {
 
 inv_xml_handle *open_text(const std::string &name, uint32_t pi_hw_type, const std::string &text)
 {
-    std::string path = testing::TempDir() + "inv_footprint_" + name + ".xml";
+    // Tests of one document run at the same time.
+    std::string path = testing::TempDir() + "inv_footprint_" + name + std::to_string(getpid()) + ".xml";
     std::ofstream(path, std::ios::binary) << text;
     fake_platform::set_only_file_name(path.c_str());
     inv_xml_handle *handle = inv_parser_open_xml_file(0, pi_hw_type, 0, "");
