@@ -307,8 +307,13 @@ bool is_fault_of_place(int32_t status)
 int32_t look_up(xb_context *ctx, const content_scope &scope, int32_t position)
 {
     const content_table &content = scope.type->content;
-    if (position >= content.count)
-        return XB_END_OF_CONTENT;
+    if (position >= content.count) {
+        // A group ends in front of the tag ahead; text in between comes first.
+        const xb_sequence_row no_row = {0, 0, -1};
+        return scope.group ? rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count, &no_row, 0,
+                                                    -1, true)
+                           : XB_END_OF_CONTENT;
+    }
     return rtXmlpGetNextSeqElemID(ctx, content.elements, content.element_count, content.sequence, position,
                                   content.last_required, scope.group);
 }
