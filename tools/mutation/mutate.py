@@ -101,7 +101,7 @@ def judge(number, mutant, tests, args):
     outcome, killer, tried = "survived", None, 0
     for program in in_order([t for t in tests if t.seen[number]], mutant):
         tried += 1
-        result = programs.run(program, args.build, number, program.limit)
+        result = programs.run(program, args.build, number, program.limits)
         if result != "passed":
             outcome, killer = ("killed" if result == "failed" else "timed out"), program.name
             break
