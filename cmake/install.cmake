@@ -3,7 +3,7 @@ include(CMakePackageConfigHelpers)
 
 install(TARGETS lib_inv_parser inv_platform EXPORT inv_parser LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY shared_pkg/common/schema/parser/include/inv_parser platform/include/inv_platform
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN system_memory.h EXCLUDE)
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN system_memory.h EXCLUDE PATTERN memory_guard.h EXCLUDE)
 install(DIRECTORY inventories DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
 install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
 install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN man EXCLUDE)

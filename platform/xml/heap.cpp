@@ -1,6 +1,7 @@
 #include "heap.h"
 
 #include "context.h"
+#include "inv_platform/memory_guard.h"
 #include "inv_platform/system_memory.h"
 
 #include <algorithm>
@@ -47,6 +48,7 @@ bool is_within(const heap_chunk *chunk, const void *place)
 
 void release_chunk(heap_chunk *chunk)
 {
+    memory::permit(octets_of(chunk), chunk->capacity);
     if (chunk->mapped_size > 0)
         memory::unmap(chunk, chunk->mapped_size);
     else
@@ -59,7 +61,9 @@ heap_chunk *new_chunk(size_t capacity, bool is_mapped)
     void *block = is_mapped ? memory::map(size) : memory::request(size);
     if (block == nullptr)
         return nullptr;
-    return new (block) heap_chunk{nullptr, capacity, 0, is_mapped ? size : 0};
+    auto *chunk = new (block) heap_chunk{nullptr, capacity, 0, is_mapped ? size : 0};
+    memory::forbid(octets_of(chunk), capacity);
+    return chunk;
 }
 
 void push(heap_chunk *&list, heap_chunk *chunk)
@@ -74,6 +78,7 @@ void *allocate_own_chunk(heap &from, size_t size)
     if (chunk == nullptr)
         return nullptr;
     push(from.own_chunks, chunk);
+    memory::permit(octets_of(chunk), size);
     return octets_of(chunk);
 }
 
@@ -134,6 +139,7 @@ void *allocate(heap &from, size_t size, size_t alignment)
     if (size > static_cast<size_t>(PTRDIFF_MAX) - sizeof(heap_chunk) - greatest_alignment)
         return nullptr;
     size = std::max(size, size_t{1});
+    alignment = std::max(alignment, memory::guard_alignment);
     size_t start = from.newest == nullptr ? 0 : aligned(from.newest->used, alignment);
     if (from.newest == nullptr || start > from.newest->capacity || size > from.newest->capacity - start) {
         const size_t chunk_size = next_chunk_size(from);
@@ -149,7 +155,8 @@ void *allocate(heap &from, size_t size, size_t alignment)
         start = 0;
     }
     from.last = octets_of(from.newest) + start;
-    from.newest->used = start + size;
+    from.newest->used = std::min(start + size + memory::guard_size, from.newest->capacity);
+    memory::permit(from.last, size);
     return from.last;
 }
 
@@ -194,7 +201,9 @@ void heap_take_back(heap &from, void *ptr)
         release_chunk(own);
         return;
     }
-    from.newest->used = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));
+    const auto start = static_cast<size_t>(static_cast<char *>(ptr) - octets_of(from.newest));
+    memory::forbid(ptr, from.newest->used - start);
+    from.newest->used = start;
 }
 
 const void *heap_forget(heap &of, const void *from, const void *to)
@@ -216,6 +225,7 @@ const void *heap_forget(heap &of, const void *from, const void *to)
     if (begin >= end)
         return from;
     memory::discard(reinterpret_cast<void *>(begin), end - begin);
+    memory::forbid(reinterpret_cast<void *>(begin), end - begin);
     return reinterpret_cast<const void *>(end);
 }
 

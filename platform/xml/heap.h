@@ -2,8 +2,10 @@
 #ifndef PLATFORM_XML_HEAP_H
 #define PLATFORM_XML_HEAP_H
 
+#include "inv_platform/memory_guard.h"
 #include "inv_platform/xml_runtime.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -47,13 +49,19 @@ constexpr size_t heap_text_padding = 16;
 inline char *heap_copy_padded_text(heap &from, std::string_view text)
 {
     heap_chunk *chunk = from.newest;
-    if (chunk == nullptr || text.size() + heap_text_padding > chunk->capacity - chunk->used)
+    constexpr size_t slack = memory::guard_alignment - 1;
+    const size_t room = text.size() + heap_text_padding;
+    if (chunk == nullptr || room + slack > chunk->capacity - chunk->used)
         return heap_copy_text(from, text);
-    char *copy = reinterpret_cast<char *>(chunk + 1) + chunk->used;
+    const size_t start = (chunk->used + slack) & ~slack;
+    char *copy = reinterpret_cast<char *>(chunk + 1) + start;
+    memory::permit(copy, room);
     for (size_t i = 0; i < text.size(); i += heap_text_padding)
         memcpy(copy + i, text.data() + i, heap_text_padding);
     copy[text.size()] = '\0';
-    chunk->used += text.size() + 1;
+    memory::forbid(copy, room);
+    memory::permit(copy, text.size() + 1);
+    chunk->used = std::min(start + text.size() + 1 + memory::guard_size, chunk->capacity);
     from.last = copy;
     return copy;
 }

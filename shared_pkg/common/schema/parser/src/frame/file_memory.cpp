@@ -1,6 +1,7 @@
 #include "frame/file_memory.h"
 
 #include "frame/chunk_ranges.h"
+#include "inv_platform/memory_guard.h"
 #include "inv_platform/system_memory.h"
 
 #include <algorithm>
@@ -33,6 +34,7 @@ constexpr size_t single_chunk_part = 4;
 constexpr size_t largest_small_size = 64;
 constexpr size_t small_block_size = 4096;
 
+static_assert(record_alignment % memory::guard_alignment == 0 && memory::guard_size % record_alignment == 0);
 static_assert(sizeof(chunk) % record_alignment == 0, "records follow the header directly");
 
 // True once any record came from the process heap: from then on one may hang below any file's records.
@@ -47,6 +49,11 @@ char *contents(chunk *of)
     return reinterpret_cast<char *>(of + 1);
 }
 
+size_t capacity_of(const chunk *of)
+{
+    return of->size - sizeof(chunk);
+}
+
 chunk *map_chunk(size_t size)
 {
     void *pages = memory::map(size);
@@ -58,6 +65,7 @@ chunk *map_chunk(size_t size)
     }
     auto *made = static_cast<chunk *>(pages);
     made->size = size;
+    memory::forbid(contents(made), capacity_of(made));
     return made;
 }
 
@@ -66,6 +74,7 @@ void unmap_chunks(chunk *list)
     while (list != nullptr) {
         chunk *next = list->next;
         remove_chunk_range(list);
+        memory::permit(contents(list), capacity_of(list));
         memory::unmap(list, list->size);
         list = next;
     }
@@ -120,6 +129,14 @@ size_t next_chunk_size(const file_memory *memory)
     return std::clamp(std::bit_ceil(memory->mapped + 1), first_chunk_size, last_doubled_chunk);
 }
 
+// The first octets of the free ones, which hold as many.
+void *cut(char **free_begin, const char *free_end, size_t size)
+{
+    char *taken = *free_begin;
+    *free_begin += std::min(size + memory::guard_size, static_cast<size_t>(free_end - taken));
+    return taken;
+}
+
 // size is a multiple of the alignment.
 void *take_aligned(file_memory *memory, size_t size)
 {
@@ -131,16 +148,12 @@ void *take_aligned(file_memory *memory, size_t size)
         if (!next_chunk(memory, next, next_size, size))
             return nullptr;
     }
-    void *taken = memory->free_begin;
-    memory->free_begin += size;
-    return taken;
+    return cut(&memory->free_begin, memory->free_end, size);
 }
 
-void *take(file_memory *memory, size_t size)
+// size is a multiple of the alignment.
+void *take_rounded(file_memory *memory, size_t size)
 {
-    if (size > SIZE_MAX / 2)
-        return nullptr;
-    size = size == 0 ? record_alignment : (size + record_alignment - 1) & ~(record_alignment - 1);
     if (size > largest_small_size)
         return take_aligned(memory, size);
     if (size > static_cast<size_t>(memory->small_end - memory->small_begin)) {
@@ -150,8 +163,17 @@ void *take(file_memory *memory, size_t size)
         memory->small_begin = block;
         memory->small_end = block + small_block_size;
     }
-    void *taken = memory->small_begin;
-    memory->small_begin += size;
+    return cut(&memory->small_begin, memory->small_end, size);
+}
+
+void *take(file_memory *memory, size_t size)
+{
+    if (size > SIZE_MAX / 2)
+        return nullptr;
+    size = std::max(size, size_t{1});
+    void *taken = take_rounded(memory, (size + record_alignment - 1) & ~(record_alignment - 1));
+    if (taken != nullptr)
+        memory::permit(taken, size);
     return taken;
 }
 
@@ -161,9 +183,11 @@ void clear(file_memory *memory)
     unmap_chunks(memory->single);
     memory->single = nullptr;
     for (chunk *each = memory->first; memory->current != nullptr; each = each->next) {
+        memory::permit(contents(each), capacity_of(each));
         bool is_last = each == memory->current;
         char *end = is_last ? memory->free_begin : reinterpret_cast<char *>(each) + each->size;
         memset(contents(each), 0, static_cast<size_t>(end - contents(each)));
+        memory::forbid(contents(each), capacity_of(each));
         if (is_last)
             memory->current = nullptr;
     }
