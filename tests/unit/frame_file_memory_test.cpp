@@ -1,6 +1,7 @@
 #include "frame/file_memory.h"
 
 #include "frame/chunk_ranges.h"
+#include "inv_platform/memory_guard.h"
 #include "inv_platform/system_memory.h"
 #include "support/counting_memory.h"
 
@@ -124,6 +125,7 @@ std::vector<uint64_t> chunk_sizes(size_t count)
     uint64_t mapped = counting_memory::mapped_octets();
     while (sizes.size() < count && record_request(1000) != nullptr) {
         uint64_t now = counting_memory::mapped_octets();
+        EXPECT_EQ((now - mapped) % kibi, 0u);
         if (now != mapped)
             sizes.push_back((now - mapped) / kibi);
         mapped = now;
@@ -152,10 +154,10 @@ TEST_F(FileMemory, chunks_double_from_64_kibi_to_1_mebi_and_are_large_pages_when
 TEST_F(FileMemory, what_is_expected_takes_large_pages_that_are_half_filled_at_least)
 {
     const expectation expectations[] = {
-        {1024 * kibi - 1, {64, 128}},   {1024 * kibi, {2048, 1024}},
-        {2048 * kibi, {2048, 1024}},    {3071 * kibi, {2048, 1024, 1024}},
-        {3072 * kibi, {4096, 1024}},    {33 * 1024 * kibi, {32768, 2048, 2048}},
-        {SIZE_MAX / 2, {32768, 32768}},
+        {1024 * kibi - 1, {64, 128}},      {1024 * kibi, {2048, 1024}},
+        {2048 * kibi, {2048, 1024}},       {3071 * kibi, {2048, 1024, 1024}},
+        {3072 * kibi, {4096, 1024}},       {33 * 1024 * kibi, {32768, 2048, 2048}},
+        {16 * 1024 * kibi, {16384, 2048}}, {SIZE_MAX / 2, {32768, 32768}},
     };
     for (const expectation &each : expectations) {
         inv_xml_handle *handle = new_handle();
@@ -198,6 +200,20 @@ TEST_F(FileMemory, chunks_that_a_failed_load_left_serve_what_the_next_expects)
     handle_forget(handle);
 }
 
+TEST_F(FileMemory, what_a_second_load_expects_comes_on_top_of_what_the_first_took)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    expect_records(2048 * kibi);
+    EXPECT_EQ(chunk_sizes(1), std::vector<uint64_t>{2048});
+    end_load(false);
+    begin_load(handle);
+    expect_records(4096 * kibi);
+    EXPECT_EQ(chunk_sizes(1), std::vector<uint64_t>{4096});
+    end_load(false);
+    handle_forget(handle);
+}
+
 TEST_F(FileMemory, outside_a_load_nothing_is_expected)
 {
     expect_records(1024 * kibi);
@@ -219,7 +235,7 @@ TEST_F(FileMemory, a_large_request_has_a_chunk_of_its_own_and_small_ones_go_on)
     ASSERT_NE(large, nullptr);
     EXPECT_TRUE(is_zero(large, 10 * kibi * kibi));
     EXPECT_TRUE(frame::is_in_chunk(large + 10 * kibi * kibi - 1));
-    EXPECT_EQ(after, before + 16);
+    EXPECT_EQ(after, before + 16 + memory::guard_size);
     handle_forget(handle);
 }
 
@@ -245,9 +261,36 @@ TEST_F(FileMemory, a_request_that_would_leave_much_of_a_chunk_unused_is_kept_apa
     uint64_t mapped = counting_memory::mapped_octets();
     record_request(40 * kibi);
     EXPECT_EQ(counting_memory::mapped_octets(), mapped + 44 * kibi) << "over a quarter of the next, 128 KiB";
-    EXPECT_EQ(record_request(14 * kibi), before + 3 * 14 * kibi);
+    EXPECT_EQ(record_request(14 * kibi), before + 3 * (14 * kibi + memory::guard_size));
     record_request(30 * kibi);
     EXPECT_EQ(counting_memory::mapped_octets(), mapped + (44 + 128) * kibi);
+    end_load(false);
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, a_quarter_of_the_next_chunk_is_no_request_of_its_own)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    EXPECT_NE(record_request(16 * kibi), nullptr);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before + 64 * kibi);
+    EXPECT_NE(record_request(16 * kibi), nullptr);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before + 64 * kibi);
+    end_load(false);
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, requests_up_to_64_octets_lie_together)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    auto *first = static_cast<char *>(record_request(64));
+    auto *large = static_cast<char *>(record_request(65));
+    auto *second = static_cast<char *>(record_request(49));
+    auto *third = static_cast<char *>(record_request(16));
+    EXPECT_EQ(second, first + 64 + memory::guard_size);
+    EXPECT_EQ(third, second + 64 + memory::guard_size);
+    EXPECT_EQ(record_request(65), large + 80 + memory::guard_size);
     end_load(false);
     handle_forget(handle);
 }
@@ -307,6 +350,22 @@ TEST_F(FileMemory, small_records_of_a_retry_lie_apart_from_the_others)
     void *small = record_request(16);
     ASSERT_NE(small, nullptr);
     EXPECT_TRUE(is_zero(small, 16));
+    end_load(false);
+    handle_forget(handle);
+}
+
+TEST_F(FileMemory, no_table_knows_what_a_failed_load_built_when_the_next_begins)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    end_load(true);
+    set_side_table(handle, side_table::eid_lookup, memory::request(16), memory::release);
+    begin_load(handle);
+    EXPECT_EQ(get_side_table(handle, side_table::eid_lookup), nullptr);
+    end_load(false);
+    set_side_table(handle, side_table::eid_lookup, memory::request(16), memory::release);
+    begin_load(handle);
+    EXPECT_NE(get_side_table(handle, side_table::eid_lookup), nullptr) << "what is kept stays known";
     end_load(false);
     handle_forget(handle);
 }

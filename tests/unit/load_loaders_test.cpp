@@ -3,6 +3,7 @@
 #include "frame/registry.h"
 #include "inv_parser/loaders.h"
 #include "inv_parser/tree_internal.h"
+#include "load/document_kind.h"
 #include "support/counting_memory.h"
 #include "support/fake_platform.h"
 #include "support/trace_recorder.h"
@@ -239,6 +240,80 @@ TEST(Load, a_null_handle_loads_nothing)
     for (const loader_case &each : loaders())
         EXPECT_EQ(each.load(nullptr), 1) << each.document.name;
     EXPECT_TRUE(trace_recorder::lines().empty());
+}
+
+// Loads by the kind's own function, into a handle as the registry makes it.
+inv_xml_handle *load_directly(const loader_case &each, const std::string &path)
+{
+    fake_platform::set_only_file_name(path.c_str());
+    inv_xml_handle *handle = inv_parser_get_xml_handle(0, each.document.pi_hw_type, 0, "");
+    EXPECT_EQ(each.load(handle), 0);
+    handle->root = root_eid;
+    handle->file_count = 1;
+    return handle;
+}
+
+TEST(Load, what_a_kinds_own_function_has_loaded_is_known)
+{
+    for (const loader_case &each : loaders()) {
+        SCOPED_TRACE(each.document.name);
+        fresh_library library;
+        root_eid = nullptr;
+        inv_xml_handle *handle = load_directly(each, path_of(each.document));
+        ASSERT_NE(handle->root, nullptr);
+        EXPECT_EQ(inv::loaded_kind(handle),
+                  static_cast<uint8_t>(inv::load::kind_of(each.document.pi_hw_type)));
+        inv_parser_close_xml_file(handle);
+        EXPECT_EQ(library.live(), 0u);
+    }
+}
+
+TEST(Load, a_document_whose_entities_do_not_begin_the_tree_is_of_no_known_kind)
+{
+    fresh_library library;
+    sch_base_entity_type record = {};
+    eid_chain_node other = {};
+    other.record = &record;
+    root_eid = &other;
+    const loader_case pem = loaders()[4];
+    inv_xml_handle *handle = load_directly(pem, path_of(pem.document));
+    EXPECT_EQ(inv::loaded_kind(handle), 0);
+    root_eid = handle->root = nullptr;
+    inv_parser_close_xml_file(handle);
+    library.release_kept(handle);
+}
+
+TEST(Load, a_chassis_loaded_by_its_own_function_knows_the_way_to_the_idproms_of_its_slots)
+{
+    fresh_library library;
+    const std::string path = INV_SOURCE_DIR "/inventories/chassis.xml";
+    constexpr uint32_t line_card = 6;
+    inv_xml_handle *handle = load_directly(loaders()[0], path);
+    sch_i2c_access_seq_type *way = nullptr;
+    EXPECT_EQ(inv_parser_get_container_list_i2c_idprom_access_info(handle, line_card, &way), 0u);
+    ASSERT_NE(way, nullptr);
+    EXPECT_GT(way->hop_count, 0);
+    inv_parser_free_i2c_access_sequence(way);
+    inv_parser_close_xml_file(handle);
+    EXPECT_EQ(library.live(), 0u);
+}
+
+TEST(Load, a_second_load_into_a_handle_keeps_what_the_first_has_built)
+{
+    fresh_library library;
+    const loader_case module = loaders()[1];
+    root_eid = nullptr;
+    inv_xml_handle *handle = load_directly(module, path_of(module.document));
+    const sch_module_type *first = module_data;
+    const std::string name = first->base.name;
+    EXPECT_FALSE(name.empty());
+    root_eid = nullptr;
+    EXPECT_EQ(module.load(handle), 0);
+    EXPECT_NE(module_data, first);
+    EXPECT_EQ(first->base.name, name);
+    handle->root = root_eid;
+    inv_parser_close_xml_file(handle);
+    EXPECT_EQ(library.live(), 0u);
 }
 
 TEST(Load, only_the_chassis_loader_clears_the_tree_being_built)

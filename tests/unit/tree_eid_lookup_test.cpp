@@ -5,6 +5,7 @@
 #include "inv_parser/tree_internal.h"
 #include "support/counting_memory.h"
 #include "tree/eid_lookup.h"
+#include "tree/growth.h"
 #include "unit/tree_samples.h"
 
 #include <gtest/gtest.h>
@@ -83,6 +84,48 @@ TEST(EidLookup, an_entity_hung_in_later_is_found_and_an_earlier_one_of_its_path_
     }
     inv_schema_free_eid_chain_list(first->next_sibling);
     first->next_sibling = nullptr;
+}
+
+TEST(EidLookup, an_entity_whose_node_was_released_is_found_no_longer)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    root_eid = tree.handle.root;
+    parser_update_eid_chain(tree.record({8, 2, 7}), root->record);
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 2, 7}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), root->first_child);
+    inv_schema_free_eid_chain_list(root->first_child);
+    root->first_child = nullptr;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), nullptr);
+}
+
+TEST(EidLookup, the_tree_of_a_load_leaves_the_table_of_another_as_it_is)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {9, 1, 0});
+    tree.add(root, {8, 1, 1});
+    root_eid = tree.handle.root;
+    sch_eid_type eid = eid_of({{9, 1, 0}, {8, 1, 1}});
+    for (int i = 0; i < 2; ++i)
+        EXPECT_NE(inv::find_entity_of(&tree.handle, &eid), nullptr);
+    sample loaded;
+    {
+        inv::tree_growth_scope load;
+        root_eid = nullptr;
+        sch_base_entity_type *top = loaded.record({9, 1, 0});
+        parser_update_eid_chain(top, nullptr);
+        parser_update_eid_chain(loaded.record({8, 1, 2}), top);
+    }
+    eid_chain_node *loaded_root = root_eid;
+    root_eid = tree.handle.root;
+    // Only the table still leads there.
+    eid_chain_node *child = root->first_child;
+    root->first_child = nullptr;
+    EXPECT_EQ(inv::find_entity_of(&tree.handle, &eid), child);
+    root->first_child = child;
+    inv_schema_free_eid_chain_list(loaded_root);
 }
 
 TEST(EidLookup, an_entity_whose_triple_was_changed_is_found_by_its_new_eid_only)

@@ -4,6 +4,7 @@
 #include "frame/file_memory.h"
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/avl.h"
+#include "inv_platform/system_memory.h"
 #include "support/counting_memory.h"
 
 #include <gtest/gtest.h>
@@ -84,6 +85,22 @@ TEST_F(InstanceTable, serves_no_longer_once_an_index_was_emptied)
     EXPECT_NE(instance_table_of(&handle), nullptr) << "an empty index loses nothing";
     parser_avl_delete_inst_tree(&handle.i2c_xml_inst_index, parser_xml_inst_compare);
     EXPECT_EQ(instance_table_of(&handle), nullptr);
+}
+
+TEST_F(InstanceTable, serves_on_when_the_nodes_of_another_file_go)
+{
+    inv_xml_handle other = {};
+    ASSERT_TRUE(frame::add_side_record(&other));
+    begin_instance_table(&other);
+    auto *node = static_cast<sch_xml_inst_node_type *>(memory::request(sizeof(sch_xml_inst_node_type)));
+    ASSERT_NE(avl_insert(index_tree(&other, bus::i2c), node, parser_xml_inst_compare, 0), nullptr);
+    enter_instance(instance_table_of(&other), bus::i2c, node);
+    drop_instance_table(&other);
+    EXPECT_EQ(instance_table_of(&other), nullptr);
+    empty_instance_index(index_tree(&other, bus::i2c), parser_xml_inst_compare);
+    EXPECT_EQ(other.i2c_xml_inst_index, nullptr);
+    EXPECT_NE(instance_table_of(&handle), nullptr);
+    release_file_memory(&other);
 }
 
 TEST_F(InstanceTable, takes_out_of_a_tree_what_it_knows_and_leaves_the_rest)

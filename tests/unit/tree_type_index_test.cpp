@@ -114,6 +114,22 @@ TEST(TypeIndex, takes_in_what_a_client_hangs_into_the_tree_later)
     inv_schema_free_eid_chain_list(hung);
 }
 
+TEST(TypeIndex, leaves_out_what_a_client_has_released)
+{
+    known_sample tree;
+    eid_chain_node *root = tree.add(nullptr, {2, 1, 0});
+    root_eid = tree.handle.root;
+    parser_update_eid_chain(tree.record({1, 1, 1}), root->record);
+    parser_update_eid_chain(tree.record({1, 1, 2}), root->first_child->record);
+    expect_all_answers(&tree.handle);
+    inv_schema_free_eid_chain_list(root->first_child->first_child);
+    root->first_child->first_child = nullptr;
+    expect_all_answers(&tree.handle);
+    inv_schema_free_eid_chain_list(root->first_child);
+    root->first_child = nullptr;
+    expect_all_answers(&tree.handle);
+}
+
 TEST(TypeIndex, is_asked_for_memory_once_and_the_answer_once_each_time)
 {
     known_sample tree;

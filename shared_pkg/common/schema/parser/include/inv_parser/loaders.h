@@ -36,7 +36,7 @@ int32_t parser_retrieve_fantray_xml_data(inv_xml_handle *handle);          /* tr
 
 /* Record of the document of each kind that was loaded last, complete or not; null before the first
  * and after an allocation failure. Overwritten by the next load of the kind and never cleared: it
- * dangles once that file is closed. */
+ * dangles once that file is closed, or once a handle whose load failed is loaded again. */
 extern sch_chassis_type *chassis_data;
 extern sch_module_type *module_data;
 extern sch_pem_type *pem_data;

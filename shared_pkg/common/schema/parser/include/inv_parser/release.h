@@ -104,13 +104,15 @@ void inv_schema_free_module_data_list(sch_module_type *first);
 /* Base, EEPROMs, sensors and the whole chain of modules, however long. */
 void inv_schema_free_back_plane_data(sch_back_plane_type *record);
 
-/* A level of an entity tree with everything below it. Entity records are not touched. */
+/* A level of an entity tree with everything below it. Entity records are not touched, and nothing is
+ * unlinked: what is left of the tree must not lead to these nodes any longer when it is asked next. */
 void inv_schema_free_eid_chain_list(eid_chain_node *first);
 
 /* Loading results: the handle, of which only `root` is read. Each releases the root's record with
  * what it owns, the entity tree and the handle itself, which must have come from the zeroing heap, be
- * in no registry and hold a record of the kind that is named. When the handle, its root or the root's
- * record is null nothing at all is released. */
+ * in no registry and hold a record of the kind that is named. (A record that the library knows to be of
+ * another kind, since it loaded the document, goes with the handle's memory instead.) When the handle, its
+ * root or the root's record is null nothing at all is released. */
 void inv_schema_free_chassis_data(inv_xml_handle *result);
 void inv_schema_free_pem_data(inv_xml_handle *result);
 void inv_schema_free_power_shelf_data(inv_xml_handle *result);

@@ -2,9 +2,10 @@
  * tests, outside the umbrella header. Clients use queries.h.
  *
  * Nothing here takes the lock: callers hold it or are serialised otherwise, because root_eid, global_eid
- * and the two counts are working storage. Null arguments are safe everywhere and mean an empty tree or
- * list. Walks go in pre-order: a node, its children, then its next sibling; "list" is a node with its
- * later siblings and everything below them. A node without a record has an all-zero triple.
+ * and the two counts are working storage. Null arguments are safe and mean an empty tree or list, but
+ * for those of parser_xml_inst_compare() and for a comparison, which may not be null. Walks go in
+ * pre-order: a node, its children, then its next sibling; "list" is a node with its later siblings and
+ * everything below them. A node without a record has an all-zero triple.
  */
 #ifndef INV_PARSER_TREE_INTERNAL_H
 #define INV_PARSER_TREE_INTERNAL_H

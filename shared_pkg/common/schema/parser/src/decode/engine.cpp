@@ -193,7 +193,9 @@ int32_t check_count(xb_context *ctx, const content_row &place)
 }
 
 // A group that was never begun is decoded with nothing in it, so that its own counts are checked.
-int32_t check_counts(xb_context *ctx, const type_description &type, void *record, int32_t position)
+// is_read: an event that was looked at may be looked at again.
+int32_t check_counts(xb_context *ctx, const type_description &type, void *record, int32_t position,
+                     bool is_read)
 {
     for (int32_t i = 0; type.content.has_counted && i < type.content.count; ++i) {
         const content_row place = {type, type.content.items[i], i, record};
@@ -203,7 +205,7 @@ int32_t check_counts(xb_context *ctx, const type_description &type, void *record
         if (place.row.kind != item_kind::group)
             status = check_count(ctx, place);
         else if (i >= position)
-            status = decode_group(ctx, place, true);
+            status = decode_group(ctx, place, is_read);
         if (status < 0)
             return status;
     }
@@ -243,12 +245,13 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
     const bool group = rtXmlpIsDecodeAsGroup(ctx);
     armed_content armed(ctx, type, group);
     int32_t position = 0;
+    bool is_read = true;
     while (position < content.count || armed.entered) {
         if (!armed.entered)
             position = decode_plain(ctx, content, position, record);
         if (position >= content.count && !armed.entered)
             break;
-        bool is_read = true;
+        is_read = true;
         int32_t index = armed.entered ? next_row_armed(ctx, armed.scope, position)
                                       : find_next(ctx, content, position, group, &is_read);
         if (index < 0)
@@ -260,7 +263,7 @@ int32_t decode_content(xb_context *ctx, const type_description &type, void *reco
             return status;
         position = index + 1;
     }
-    return check_counts(ctx, type, record, position);
+    return check_counts(ctx, type, record, position, is_read);
 }
 
 }  // namespace

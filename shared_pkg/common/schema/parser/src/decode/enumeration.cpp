@@ -43,10 +43,9 @@ int32_t decode_enumeration(xb_context *ctx, uint32_t first_step, token_converter
     if (status < 0)
         return report(ctx, status, first_step);
     status = convert(text, static_cast<int32_t>(length), code);
-    if (status < 0)
-        rtxErrAddStrnParm(ctx, text, length);
     if (status >= 0)
         return 0;
+    rtxErrAddStrnParm(ctx, text, length);
     report(ctx, status, first_step + 1);
     explain_failed_token(ctx);
     return status;

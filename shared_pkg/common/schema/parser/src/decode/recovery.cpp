@@ -18,7 +18,6 @@
 
 // A platform without armed contexts need not have these; nothing is armed then.
 #pragma weak rtxIsArmed
-#pragma weak rtxNoteItem
 #pragma weak rtxResumeAtEnd
 #pragma weak rtxResumeAtTag
 #pragma weak rtxPeekTag
@@ -403,14 +402,10 @@ bool begin_armed(xb_context *ctx, const type_description &type, void *record)
     return false;
 }
 
-int32_t resume_at_end(xb_context *ctx, int32_t status)
-{
-    return is_armed(ctx) ? rtxResumeAtEnd(ctx, status) : status;
-}
-
 int32_t resume_behind(xb_context *ctx, int32_t status)
 {
-    status = resume_at_end(ctx, status);
+    if (is_armed(ctx))
+        status = rtxResumeAtEnd(ctx, status);
     return status < 0 ? status : rtXmlpMatchEndTag(ctx, -1);
 }
 

@@ -10,6 +10,9 @@
 
 #include "decode/description.h"
 
+// A platform without armed contexts need not have it.
+#pragma weak rtxNoteItem
+
 namespace inv::decode
 {
 
@@ -100,9 +103,7 @@ inline void note_value(xb_context *ctx, const item &row, const void *target)
 }
 
 // Each takes a status that is recorded; 0 when the decode may go on, else the status to return.
-// The rest of the current element is passed over: its end tag comes next.
-int32_t resume_at_end(xb_context *ctx, int32_t status);
-// The same with the end tag.
+// The rest of the current element is passed over, its end tag included.
 int32_t resume_behind(xb_context *ctx, int32_t status);
 // Only what stands before the next tag is passed over.
 int32_t resume_at_tag(xb_context *ctx, int32_t status);
@@ -123,7 +124,6 @@ bool is_forgiven(xb_context *ctx);
 void explain_value(xb_context *ctx, item_kind kind);
 void explain_attribute(xb_context *ctx, const attribute_table &attributes);
 void explain_type(xb_context *ctx, const choice_description &choices);
-void explain_token(xb_context *ctx, const enumeration &tokens);
 
 // Remembers the tokens that a text was not found in, for explain_failed_token().
 void note_failed_lookup(const enumeration &tokens);

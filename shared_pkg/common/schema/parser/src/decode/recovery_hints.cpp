@@ -75,12 +75,6 @@ void explain_type(xb_context *ctx, const choice_description &choices)
         add_names(ctx, choices.names, static_cast<uint32_t>(choices.count), &xb_type_name_row::name);
 }
 
-void explain_token(xb_context *ctx, const enumeration &tokens)
-{
-    if (is_armed(ctx))
-        add_names(ctx, tokens.rows, tokens.count, &xb_enum_row::token);
-}
-
 void note_failed_lookup(const enumeration &tokens)
 {
     if (any_armed())
@@ -90,7 +84,7 @@ void note_failed_lookup(const enumeration &tokens)
 void explain_failed_token(xb_context *ctx)
 {
     if (is_armed(ctx) && failed_lookup != nullptr)
-        explain_token(ctx, *failed_lookup);
+        add_names(ctx, failed_lookup->rows, failed_lookup->count, &xb_enum_row::token);
     failed_lookup = nullptr;
 }
 

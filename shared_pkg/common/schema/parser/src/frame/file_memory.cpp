@@ -229,6 +229,8 @@ void begin_load(inv_xml_handle *handle) noexcept
         return;
     // The one pointer that a failed load leaves in the handle; the next load may be of another kind.
     handle->module_record = nullptr;
+    // Tables may know what was built; the next load builds at the same places.
+    frame::drop_tables(side);
     frame::clear(frame::loading);
 }
 

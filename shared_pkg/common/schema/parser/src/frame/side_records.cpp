@@ -97,12 +97,18 @@ bool add_side_record(const inv_xml_handle *handle) noexcept
     return true;
 }
 
-void remove_side_record(side_record *record) noexcept
+void drop_tables(side_record *record) noexcept
 {
     for (size_t i = 0; i < side_table_count; ++i) {
         if (record->tables[i] != nullptr)
             record->table_releases[i](record->tables[i]);
+        record->tables[i] = nullptr;
     }
+}
+
+void remove_side_record(side_record *record) noexcept
+{
+    drop_tables(record);
     const side_records_guard held;
     vacate(place_of(record->handle));
     memory::release(record);

@@ -93,6 +93,9 @@ side_record *find_side_record(const inv_xml_handle *handle) noexcept;
 // next does.
 bool add_side_record(const inv_xml_handle *handle) noexcept;
 
+// Releases the record's tables.
+void drop_tables(side_record *record) noexcept;
+
 // Releases the record's tables and the record. Its file memory is already empty.
 void remove_side_record(side_record *record) noexcept;
 

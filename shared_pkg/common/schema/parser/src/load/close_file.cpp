@@ -63,8 +63,9 @@ void close_last(inv_xml_handle *handle)
         take_instances_out(handle, bus::i2c, parser_xml_inst_compare);
         take_instances_out(handle, bus::pcie, parser_xml_inst_compare);
     }
-    parser_avl_delete_inst_tree(&handle->i2c_xml_inst_index, parser_xml_inst_compare);
-    parser_avl_delete_inst_tree(&handle->pcie_xml_inst_index, parser_xml_inst_compare);
+    drop_instance_table(handle);
+    for (bus which : {bus::i2c, bus::pcie})
+        empty_instance_index(index_tree(handle, which), parser_xml_inst_compare);
     parser_free_cc_slot_xml_inst(handle->i2c_cc_slot_lists);
     parser_free_cc_slot_xml_inst(handle->pcie_cc_slot_lists);
     release_document(handle);

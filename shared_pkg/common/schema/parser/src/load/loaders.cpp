@@ -48,6 +48,7 @@ struct swallowing_document {
 };
 
 struct chassis_document : swallowing_document<msg::chassis_load_start, msg::chassis_decode_failed> {
+    static constexpr loaded_document kind = loaded_chassis_document;
     using record = sch_chassis_type;
     using decoded = ChassisEntityType;
     static constexpr auto initialise = Init_ChassisEntityType;
@@ -65,6 +66,7 @@ struct chassis_document : swallowing_document<msg::chassis_load_start, msg::chas
 };
 
 struct module_document {
+    static constexpr loaded_document kind = loaded_module_document;
     using record = sch_module_type;
     using decoded = xb_choice;
     static constexpr auto initialise = Init_BaseModuleType_derivations;
@@ -99,6 +101,7 @@ struct module_document {
 };
 
 struct pem_document : swallowing_document<msg::pem_load_start, msg::pem_decode_failed> {
+    static constexpr loaded_document kind = loaded_pem_document;
     using record = sch_pem_type;
     using decoded = PEMType;
     static constexpr auto initialise = Init_PEMType;
@@ -115,6 +118,7 @@ struct pem_document : swallowing_document<msg::pem_load_start, msg::pem_decode_f
 
 struct power_shelf_document
     : swallowing_document<msg::power_shelf_load_start, msg::power_shelf_decode_failed> {
+    static constexpr loaded_document kind = loaded_power_shelf_document;
     using record = sch_power_shelf_type;
     using decoded = PowerShelfType;
     static constexpr auto initialise = Init_PowerShelfType;
@@ -131,6 +135,7 @@ struct power_shelf_document
 };
 
 struct cxp_optics_document : swallowing_document<msg::cxp_load_start, msg::cxp_decode_failed> {
+    static constexpr loaded_document kind = loaded_optics_document;
     using record = sch_cxp_fixed_optics_type;
     using decoded = OpticsType;
     static constexpr auto initialise = Init_OpticsType;
@@ -146,6 +151,7 @@ struct cxp_optics_document : swallowing_document<msg::cxp_load_start, msg::cxp_d
 };
 
 struct fan_tray_document : swallowing_document<msg::fan_tray_load_start, msg::fan_tray_decode_failed> {
+    static constexpr loaded_document kind = loaded_fan_tray_document;
     using record = sch_fan_tray_type;
     using decoded = FanTrayType;
     static constexpr auto initialise = Init_FanTrayType;
@@ -182,6 +188,9 @@ int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename D
     parser_set_inv_file_instance(handle);
     Document::build(record, &decoded);
     parser_set_inv_file_instance(nullptr);
+    // An open says more exactly what it was.
+    if (root_eid != nullptr && static_cast<const void *>(root_eid->record) == record)
+        remember_loaded_kind(handle, Document::kind);
     return 0;
 }
 

@@ -3,6 +3,7 @@
 
 #include "frame/file_memory.h"
 #include "inv_parser/unit_records.h"
+#include "tree/growth.h"
 
 using namespace inv;
 
@@ -14,6 +15,16 @@ bool may_hold(const inv_xml_handle *result, loaded_document kind)
 {
     uint8_t loaded = loaded_kind(result);
     return loaded == 0 || loaded == kind;
+}
+
+// The tables that know the tree of a handle that the registry made go with the handle; those of other files
+// are right as they are.
+void release_tree(const inv_xml_handle *result)
+{
+    if (has_side_record(result))
+        release_eid_nodes(result->root);
+    else
+        inv_schema_free_eid_chain_list(result->root);
 }
 
 // Kept: when the handle, its root or the root's record is missing nothing at all is released.
@@ -28,7 +39,7 @@ void free_result(inv_xml_handle *result, loaded_document kind, Release release_o
         release_owned(record);
         record_free(record);
     }
-    inv_schema_free_eid_chain_list(result->root);
+    release_tree(result);
     handle_forget(result);
 }
 
@@ -99,7 +110,7 @@ void inv_schema_free_base_module_data(inv_xml_handle *result)
 {
     if (result == nullptr)
         return;
-    inv_schema_free_eid_chain_list(result->root);
+    release_tree(result);
     inv_schema_free_module_data_list(result->module_record);
     handle_forget(result);
 }

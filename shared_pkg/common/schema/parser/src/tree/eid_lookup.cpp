@@ -15,7 +15,7 @@ namespace inv
 namespace
 {
 
-uint64_t growth_count;
+uint64_t change_count;
 
 // Kept with a handle from its first lookup on; has paths from the second.
 struct eid_lookup {
@@ -39,14 +39,14 @@ eid_lookup *current_lookup(const inv_xml_handle *handle)
     if (!has_side_record(handle))
         return nullptr;
     auto *lookup = static_cast<eid_lookup *>(get_side_table(handle, side_table::eid_lookup));
-    if (lookup != nullptr && lookup->root == root_eid && lookup->made_at == growth_count)
+    if (lookup != nullptr && lookup->root == root_eid && lookup->made_at == change_count)
         return lookup;
     void *storage = memory::request(sizeof(eid_lookup));
     if (storage == nullptr)
         return nullptr;
     lookup = new (storage) eid_lookup;
     lookup->root = root_eid;
-    lookup->made_at = growth_count;
+    lookup->made_at = change_count;
     set_side_table(handle, side_table::eid_lookup, lookup, release_lookup);
     return nullptr;
 }
@@ -77,14 +77,14 @@ eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) 
     return parser_find_entity(root_eid, eid);
 }
 
-void note_tree_growth() noexcept
+void note_tree_change() noexcept
 {
-    ++growth_count;
+    ++change_count;
 }
 
-uint64_t tree_growth_count() noexcept
+uint64_t tree_change_count() noexcept
 {
-    return growth_count;
+    return change_count;
 }
 
 }  // namespace inv

@@ -9,16 +9,17 @@ namespace inv
 {
 
 // What parser_find_entity(root_eid, eid) answers; root_eid is the handle's tree. The handle's second
-// lookup makes a table of paths that belongs to the handle; a tree that has grown since, or a handle that
+// lookup makes a table of paths that belongs to the handle; a tree that has changed since, or a handle that
 // the registry did not make, is searched literally. Records must not be changed by clients; an entity
 // whose triple was changed all the same is found by the literal search.
 eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) noexcept;
 
-// To be called whenever a tree grows: tables made before are out of date.
-void note_tree_growth() noexcept;
+// To be called whenever a tree that has been handed out grows or loses nodes: tables made before are out of
+// date.
+void note_tree_change() noexcept;
 
-// Differs from what it was when a tree has grown.
-uint64_t tree_growth_count() noexcept;
+// Differs from what it was when such a tree has changed.
+uint64_t tree_change_count() noexcept;
 
 }  // namespace inv
 

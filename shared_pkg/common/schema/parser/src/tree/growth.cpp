@@ -175,7 +175,10 @@ void inv::expect_growth(const sch_base_entity_type *record) noexcept
 
 void parser_update_eid_chain(sch_base_entity_type *record, sch_base_entity_type *parent_record)
 {
-    note_tree_growth();
+    // No table knows the tree that a load makes, and those of other files stay as they are.
+    const bool is_being_made = growth.first_capacity != 0 && (root_eid == nullptr || growth.root == root_eid);
+    if (!is_being_made)
+        note_tree_change();
     if (root_eid == nullptr) {
         make_root(record, parent_record);
         return;
@@ -206,14 +209,21 @@ eid_chain_node *parser_find_parent_node(sch_base_entity_type *record, eid_chain_
 
 // The last node of a level goes on with its children in this loop, so that only side branches take stack.
 // Nothing is relinked: the nodes of a file outlive this.
-void inv_schema_free_eid_chain_list(eid_chain_node *first)
+void inv::release_eid_nodes(eid_chain_node *first) noexcept
 {
     while (first != nullptr) {
         eid_chain_node *children = first->first_child;
         eid_chain_node *following = first->next_sibling;
         if (following != nullptr)
-            inv_schema_free_eid_chain_list(children);
+            release_eid_nodes(children);
         record_free(first);
         first = following != nullptr ? following : children;
     }
+}
+
+void inv_schema_free_eid_chain_list(eid_chain_node *first)
+{
+    if (first != nullptr)
+        note_tree_change();
+    release_eid_nodes(first);
 }

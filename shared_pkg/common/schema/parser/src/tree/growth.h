@@ -9,6 +9,7 @@
 #define TREE_GROWTH_H
 
 #include "inv_parser/base_entity.h"
+#include "inv_parser/handle.h"
 
 #include <stddef.h>
 
@@ -25,6 +26,9 @@ public:
     tree_growth_scope(const tree_growth_scope &) = delete;
     tree_growth_scope &operator=(const tree_growth_scope &) = delete;
 };
+
+// Gives back the nodes of a list with everything below them. No table that is still looked at may know them.
+void release_eid_nodes(eid_chain_node *first) noexcept;
 
 // A hint that an entity will be hung into the tree soon: its place in the table is then at hand.
 void expect_growth(const sch_base_entity_type *record) noexcept;

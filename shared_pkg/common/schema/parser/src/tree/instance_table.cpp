@@ -74,6 +74,11 @@ void take_instances_out(inv_xml_handle *file, bus which, avl_compare compare) no
     }
 }
 
+void drop_instance_table(const inv_xml_handle *file) noexcept
+{
+    set_side_table(file, side_table::instances, nullptr, release_table);
+}
+
 void forget_instances() noexcept
 {
     times_forgotten.fetch_add(1, std::memory_order_relaxed);

@@ -50,6 +50,13 @@ void forget_instances() noexcept;
 // them, which tells in advance what will be touched. Nodes that the table does not know stay.
 void take_instances_out(inv_xml_handle *file, bus which, avl_compare compare) noexcept;
 
+// To be called when the file's own nodes go: its table serves no longer, those of other files do.
+void drop_instance_table(const inv_xml_handle *file) noexcept;
+
+// Takes every node out of the tree and gives it back. Stops when the tree does not let go of one. Whatever
+// knows the nodes must have been told before.
+void empty_instance_index(avl_root *root, avl_compare compare) noexcept;
+
 // The node, or null when the tree has to be searched.
 inline sch_xml_inst_node_type *find_instance(const instance_table *table, bus which, uint32_t instance)
 {

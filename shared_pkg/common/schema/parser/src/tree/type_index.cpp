@@ -110,7 +110,7 @@ type_index *make_index()
     auto *index = reinterpret_cast<type_index *>(block);
     *index = counted;
     index->root = root_eid;
-    index->made_at = tree_growth_count();
+    index->made_at = tree_change_count();
     index->runs = reinterpret_cast<subtype_run *>(block + sizeof(type_index));
     index->eids = reinterpret_cast<sch_eid_type *>(block + sizeof(type_index) + runs_size);
     fill_types(*index);
@@ -124,7 +124,7 @@ const type_index *type_index_for(const inv_xml_handle *handle, const entity_filt
     if (filter.any_type || filter.type >= type_count || handle->root != root_eid || !has_side_record(handle))
         return nullptr;
     auto *kept = static_cast<type_index *>(get_side_table(handle, side_table::type_index));
-    if (kept != nullptr && kept->root == root_eid && kept->made_at == tree_growth_count())
+    if (kept != nullptr && kept->root == root_eid && kept->made_at == tree_change_count())
         return kept;
     // The old one goes first: two at a time would be twice the memory.
     set_side_table(handle, side_table::type_index, nullptr, memory::release);

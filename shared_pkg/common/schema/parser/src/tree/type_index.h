@@ -14,7 +14,7 @@ struct type_index;
 
 // The index of root_eid, which is the handle's tree. Made by the first query by type and kept with the
 // handle: 70 octets for an entity, and 12 for each change of subtype among the entities of a type. A tree
-// that has grown since is taken in anew. Null without memory, for a handle that the registry did not make
+// that has changed since is taken in anew. Null without memory, for a handle that the registry did not make
 // and for a filter that asks for no type: the tree has to be walked. Records must not be changed by clients.
 const type_index *type_index_for(const inv_xml_handle *handle, const entity_filter &filter) noexcept;
 

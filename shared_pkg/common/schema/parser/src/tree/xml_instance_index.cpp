@@ -4,18 +4,23 @@
 #include "inv_platform/avl.h"
 #include "tree/instance_table.h"
 
+void inv::empty_instance_index(avl_root *root, avl_compare compare) noexcept
+{
+    while (void *first = avl_get_first(root)) {
+        // Without this a tree that cannot be emptied would keep the close going for ever.
+        if (avl_delete(root, first, compare, 0) == nullptr)
+            return;
+        record_free(first);
+    }
+}
+
 void parser_avl_delete_inst_tree(avl_root *root, avl_compare compare)
 {
     if (root == nullptr)
         return;
     if (*root != nullptr)
         inv::forget_instances();
-    while (void *first = avl_get_first(root)) {
-        // Without this a tree that cannot be emptied would keep the close going for ever.
-        if (avl_delete(root, first, compare, 0) == nullptr)
-            return;
-        inv::record_free(first);
-    }
+    inv::empty_instance_index(root, compare);
 }
 
 int32_t parser_xml_inst_compare(const void *a, const void *b)
