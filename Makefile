@@ -36,7 +36,7 @@ endef
 .PHONY: help run test check bench bench-short bench-check regenerate regenerate-abi install packages format clean
 .PHONY: check-format check-abi check-install check-hardening check-lint check-packages
 .PHONY: check-clang check-asan check-tsan check-fuzz coverage
-.PHONY: soak soak-memory soak-threads fuzz-soak mutation
+.PHONY: soak soak-document soak-memory soak-threads fuzz-soak mutation
 
 help: ## this list
 	@grep -hE '^[a-z-]+:.*##' $(MAKEFILE_LIST) | sed -E 's/:[^#]*## /\t/' | expand -t 18
@@ -97,13 +97,17 @@ check-fuzz: ## two minutes of fuzzing, starting from the kept corpus
 	$(call build,fuzz,--target fuzz_targets)
 	tools/fuzz_smoke.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
-# What takes longer than continuous integration has time for.
-soak: soak-threads soak-memory fuzz-soak mutation ## everything that runs for hours: threads, memory, fuzzing, mutants
+soak: check-lint coverage check-packages bench soak-document soak-threads soak-memory fuzz-soak mutation ## everything that takes longer than continuous integration has time for
 
 soak-threads: ## ten million calls of eight threads under the thread sanitizer
 	$(call packages,build test check)
 	$(call build,tsan,--target threads_stress_test)
 	INV_STRESS_CALLS=$(SOAK_CALLS) build/tsan/tests/stress/threads_stress_test
+
+soak-document: ## documents that are one attribute of as many octets as a file may have (16 GB of memory)
+	$(call packages,build test)
+	$(call build,dev,--target hostile_test)
+	INV_SOAK=1 $(BUILD)/tests/hostile/hostile_test --gtest_filter='*as_long_as_may_be*'
 
 soak-memory: ## half an hour of opening, asking and closing in one process: memory and files stay as they were
 	$(call packages,build test)
@@ -115,7 +119,7 @@ fuzz-soak: ## hours of fuzzing, one target after the other: build/fuzz-soak.txt,
 	$(call build,fuzz,--target fuzz_targets)
 	tools/fuzz_soak.sh build/fuzz/fuzz $(FUZZ_SECONDS)
 
-mutation: ## tests against a library with one fault at a time; fails when under 90 % are found (an hour or two)
+mutation: ## tests against a library with one fault at a time; fails when under 90 % are found, or one is missed unexplained
 	$(call packages,build test mutation)
 	tools/mutation/mutate.py --count $(COUNT) --seed $(SEED) --jobs $(JOBS) $(ARGS)
 

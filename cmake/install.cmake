@@ -6,8 +6,13 @@ install(DIRECTORY shared_pkg/common/schema/parser/include/inv_parser platform/in
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} PATTERN system_memory.h EXCLUDE PATTERN memory_guard.h EXCLUDE)
 install(DIRECTORY inventories DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
 install(DIRECTORY schema DESTINATION ${CMAKE_INSTALL_DATADIR}/inv_parser)
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN man EXCLUDE)
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN man EXCLUDE)
+install(FILES README.md LICENSE NOTICE SECURITY.md THIRD_PARTY.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# What is compiled into the command asks that its notice goes with copies.
+foreach(component libcli11-dev nlohmann-json3-dev)
+    install(FILES /usr/share/doc/${component}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR}/notices
+            RENAME ${component}.txt OPTIONAL)
+endforeach()
 install(FILES docs/man/invctl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES docs/man/inventory.5 DESTINATION ${CMAKE_INSTALL_MANDIR}/man5)
 

@@ -3,8 +3,8 @@
 
 check_coverage.py REPORT [--list docs/uncovered.md] [--figures] [--update]
 
-REPORT is gcovr's JSON. A line that is not covered and not in the list is an error, as is a row without a reason; a
-row whose line is covered now, or gone, is named. Lines are known by file and text, not by number, so that edits
+REPORT is gcovr's JSON. A line that is not covered and not in the list is an error, as are a row without a reason and
+a row whose line is covered now, or gone. Lines are known by file and text, not by number, so that edits
 elsewhere in a file leave the list alone; a text that is uncovered twice in a file has two rows.
 --figures prints lines and branches by folder as a Markdown table. --update writes the list: new lines get rows
 without a reason, rows that are no longer needed go.
@@ -103,6 +103,7 @@ def compare(found, rows):
             good = False
         if len(reasons) > count[name, text]:
             print(f"listed, but covered or gone: {name}: {text}")
+            good = False
     return good
 
 

@@ -20,4 +20,6 @@ run-clang-tidy -p "$build" -j "$jobs" -quiet "^$PWD/(platform|shared_pkg|tools)/
     sed -e 's/\x1b\[[0-9;]*m//g' -e '/^clang-tidy/d' "$log"
     exit 1
 }
-echo "no findings in $(grep -c '^clang-tidy' "$log") files"
+files=$(grep -c '^clang-tidy' "$log" || true)
+[ "$files" -gt 0 ] || { echo "no file was looked at"; exit 1; }
+echo "no findings in $files files"

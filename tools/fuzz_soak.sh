@@ -2,7 +2,8 @@
 # Runs the fuzz targets in turn, one process at a time, until they have had the processor time asked for. Working
 # corpora stay in build/fuzz-work, so that a later call goes on where this one ended; findings stand in build/findings.
 #   fuzz_soak.sh FOLDER-OF-TARGETS CPU-SECONDS [LOG [SLICE [TARGET...]]]
-# One line is appended to the log (build/fuzz-soak.txt) for each slice (600 seconds) of a target.
+# One line is appended to the log (build/fuzz-soak.txt) for each slice (600 seconds) of a target. Fails when there is a
+# finding.
 set -euo pipefail
 targets_folder=$(realpath "$1")
 wanted=$2
@@ -27,6 +28,7 @@ read_used() {
 times_file=$(mktemp)
 used=0
 fuzzer=0
+findings=0
 stopped=no
 trap 'stopped=yes; if [ $fuzzer -gt 0 ]; then kill -TERM $fuzzer; fi' TERM INT
 
@@ -46,7 +48,16 @@ run_slice() {
     fuzzer=0
     read_used
     local verdict=clean
-    case $result in 0) ;; 72) verdict=stopped ;; *) verdict=CRASH; cp "$output" "build/findings/$target-$(date +%s).txt" ;; esac
+    case $result in
+        0) ;;
+        72) verdict=stopped ;;
+        126 | 127) cat "$output"; exit 2 ;;
+        *)
+            verdict=CRASH
+            findings=$((findings + 1))
+            cp "$output" "build/findings/$target-$(date +%s).txt"
+            ;;
+    esac
     awk -v when="$(date -u +%FT%TZ)" -v target="$target" -v commit="$commit" -v verdict=$verdict \
         -v seconds="$(awk "BEGIN { print $used - $before }")" -v corpus="$(find "$work" -type f | wc -l)" '
         /stat::number_of_executed_units/ { runs = $2 }
@@ -58,7 +69,8 @@ while [ $stopped = no ]; do
     for target in "${targets[@]}"; do
         if [ $stopped = yes ] || awk "BEGIN { exit !($used >= $wanted) }"; then
             rm "$times_file"
-            exit 0
+            [ $findings -eq 0 ] || echo "$findings findings: see build/findings"
+            exit $((findings > 0))
         fi
         run_slice "$target" "$slice"
     done

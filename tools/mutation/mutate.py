@@ -141,9 +141,12 @@ def table(rows):
                    f"{r['outcome']}{' by ' + r['by'] if r['by'] else ''}\n" for r in rows)
 
 
-def report(rows, args):
-    """Writes the report and returns whether enough mutants are killed."""
+def report(rows, found, args):
+    """Writes the report and returns whether enough mutants are killed and all others are explained."""
     explained = read_explained(os.path.join(args.root, EXPLAINED))
+    stale = sorted(set(explained) - {key_of(mutant) for mutant in found})
+    for name, source, change in stale:
+        print(f"explained, but there is no such mutant: {name}: {source}: {change}")
     for row in rows:
         row["reason"] = explained.get((row["file"], row["source"], row["change"]))
     survivors = [row for row in rows if row["outcome"] == "survived"]
@@ -165,7 +168,7 @@ def report(rows, args):
     if equivalent:
         real = len(rows) - len(equivalent)
         print(f"{len(equivalent)} survivors are explained in {EXPLAINED}: {100 * killed / real:.1f} % of the others")
-    return raw >= args.at_least
+    return raw >= args.at_least and len(equivalent) == len(survivors) and not stale
 
 
 def arguments():
@@ -204,7 +207,7 @@ def main():
     elif args.only:
         numbers = set(map(int, args.only.split(",")))
     rows = run_mutants({n: m for n, m in mutants.items() if n in numbers}, tests, args)
-    return 0 if report(merge(rows, last) if args.only else rows, args) else 1
+    return 0 if report(merge(rows, last) if args.only else rows, found, args) else 1
 
 
 if __name__ == "__main__":
