@@ -6,7 +6,6 @@
 
 #include "inv_parser/frame.h"
 #include "inv_parser/tree_internal.h"
-#include "inv_platform/lookup.h"
 
 #include <array>
 #include <cstdlib>
@@ -35,7 +34,6 @@ sample samples[] = {
     {"route_processor.xml", 4, nullptr, nullptr, 0},
 };
 constexpr size_t sample_count = std::size(samples);
-std::string file_to_open;
 
 struct call {
     uint8_t kind, sample, entity, owner;
@@ -212,16 +210,6 @@ void make_call(const call &c)
 }
 
 }  // namespace
-
-const char *platform_get_inv_xml_file_name(uint32_t, uint32_t, const char *)
-{
-    return file_to_open.c_str();
-}
-
-const char *platform_get_inv_xml_file_name_v2(const fru_xml_loc_info *)
-{
-    return file_to_open.c_str();
-}
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -5,12 +5,9 @@
 
 #include "inv_parser/frame.h"
 #include "inv_parser/release.h"
-#include "inv_platform/lookup.h"
 
 namespace
 {
-
-memory_file document;
 
 void query_and_close(inv_xml_handle *handle)
 {
@@ -24,19 +21,10 @@ void query_and_close(inv_xml_handle *handle)
 
 }  // namespace
 
-const char *platform_get_inv_xml_file_name(uint32_t, uint32_t, const char *)
-{
-    return document.name.c_str();
-}
-
-const char *platform_get_inv_xml_file_name_v2(const fru_xml_loc_info *)
-{
-    return document.name.c_str();
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    document = make_memory_file(data, size);
+    const memory_file document = make_memory_file(data, size);
+    file_to_open = document.name;
     inv_xml_handle *handle =
         document.name.empty() ? nullptr : inv_parser_open_xml_file(0, FUZZ_HARDWARE_TYPE, 0, "");
     if (handle != nullptr) {
@@ -47,6 +35,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         inv_schema_update_the_xml_handle_list(handle);
         inv_schema_free_base_module_data(handle);
     }
-    remove_memory_file(&document);
+    remove_memory_file(document);
     return 0;
 }

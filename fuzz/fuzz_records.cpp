@@ -11,7 +11,6 @@
 #include "inv_parser/record_builders.h"
 #include "inv_parser/release.h"
 #include "inv_parser/tree_internal.h"
-#include "inv_platform/lookup.h"
 #include "inv_platform/xml_runtime.h"
 #include "inventory_Derivations.h"
 
@@ -30,8 +29,6 @@
 
 namespace
 {
-
-memory_file document;
 
 // Kept by contract: some parts of records made by hand are released by nobody.
 struct expected_leaks {
@@ -182,25 +179,16 @@ void open_and_close(const kind &which)
 
 }  // namespace
 
-const char *platform_get_inv_xml_file_name(uint32_t, uint32_t, const char *)
-{
-    return document.name.c_str();
-}
-
-const char *platform_get_inv_xml_file_name_v2(const fru_xml_loc_info *)
-{
-    return document.name.c_str();
-}
-
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     if (size == 0)
         return 0;
     const kind &which = kinds[data[0] % std::size(kinds)];
     build_by_hand(which, data + 1, size - 1);
-    document = make_memory_file(data + 1, size - 1);
+    const memory_file document = make_memory_file(data + 1, size - 1);
+    file_to_open = document.name;
     if (!document.name.empty())
         open_and_close(which);
-    remove_memory_file(&document);
+    remove_memory_file(document);
     return 0;
 }

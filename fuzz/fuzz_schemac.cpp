@@ -30,6 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (!file.name.empty() && schemac::read_tree(file.name, tree, message) &&
         schemac::read_schema(tree, schema, message))
         write_everything(schema);
-    remove_memory_file(&file);
+    remove_memory_file(file);
     return 0;
 }

@@ -22,10 +22,10 @@ inline memory_file make_memory_file(const uint8_t *data, size_t size)
     return file;
 }
 
-inline void remove_memory_file(memory_file *file)
+inline void remove_memory_file(const memory_file &file)
 {
-    if (file->descriptor >= 0)
-        close(file->descriptor);
+    if (file.descriptor >= 0)
+        close(file.descriptor);
 }
 
 #endif

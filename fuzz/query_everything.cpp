@@ -1,7 +1,21 @@
 #include "query_everything.h"
 
+#include "inv_platform/lookup.h"
+
 #include <cstdlib>
 #include <initializer_list>
+
+std::string file_to_open;
+
+const char *platform_get_inv_xml_file_name(uint32_t, uint32_t, const char *)
+{
+    return file_to_open.c_str();
+}
+
+const char *platform_get_inv_xml_file_name_v2(const fru_xml_loc_info *)
+{
+    return file_to_open.c_str();
+}
 
 namespace
 {

@@ -4,6 +4,11 @@
 
 #include "inv_parser/inv_parser.h"
 
+#include <string>
+
+// What the file lookup answers for every unit.
+extern std::string file_to_open;
+
 // Asks about the whole tree and about its first entities one by one, and reads every octet of what is
 // answered. Ends the process when answers contradict each other.
 void query_everything(inv_xml_handle *handle);
