@@ -224,8 +224,10 @@ const void *heap_forget(heap &of, const void *from, const void *to)
     const uintptr_t end = reinterpret_cast<uintptr_t>(to) & ~(unit - 1);
     if (begin >= end)
         return from;
-    memory::discard(reinterpret_cast<void *>(begin), end - begin);
-    memory::forbid(reinterpret_cast<void *>(begin), end - begin);
+    auto *pages = reinterpret_cast<void *>(begin);
+    memory::permit(pages, end - begin);
+    memory::discard(pages, end - begin);
+    memory::forbid(pages, end - begin);
     return reinterpret_cast<const void *>(end);
 }
 

@@ -1,3 +1,4 @@
+#include "inv_platform/memory_guard.h"
 #include "inv_platform/xml_runtime.h"
 #include "support/counting_memory.h"
 
@@ -190,6 +191,7 @@ TEST(XmlHeap, whole_pages_of_what_is_forgotten_go_back_and_the_rest_stays)
     EXPECT_EQ(reinterpret_cast<uintptr_t>(left) % page, 0U);
     EXPECT_LE(left, to);
     EXPECT_GT(left + page, to);
+    inv::memory::permit(left - 8, 8);
     EXPECT_EQ(*(left - 1), 0xDD) << "as tests mark what went back";
     EXPECT_EQ(*left, 0x5A);
     EXPECT_EQ(*from, 0x5A) << "the page has what came before, too";

@@ -2,6 +2,7 @@
 #include "frame/side_records.h"
 #include "generate_document.h"
 #include "generate_unit_document.h"
+#include "inv_platform/memory_guard.h"
 #include "support/counting_memory.h"
 #include "support/fake_platform.h"
 
@@ -30,7 +31,7 @@ extern "C" void *__real__ZN3inv14record_requestEm(size_t size);
 
 extern "C" void *__wrap__ZN3inv14record_requestEm(size_t size)
 {
-    asked_octets += size;
+    asked_octets += size + inv::memory::guard_size;
     return __real__ZN3inv14record_requestEm(size);
 }
 

@@ -7,6 +7,7 @@
 #include "inv_parser/record_builders.h"
 #include "inv_parser/release.h"
 #include "inv_parser/tree_internal.h"
+#include "inv_platform/memory_guard.h"
 #include "support/counting_memory.h"
 
 #include <gtest/gtest.h>
@@ -22,8 +23,10 @@ std::string octets_of_file(const inv_xml_handle *handle)
     const inv::frame::side_record *side = inv::frame::find_side_record(handle);
     std::string octets;
     for (const inv::frame::chunk *list : {side->memory.first, side->memory.single}) {
-        for (const inv::frame::chunk *each = list; each != nullptr; each = each->next)
+        for (const inv::frame::chunk *each = list; each != nullptr; each = each->next) {
+            inv::memory::permit(each, each->size);
             octets.append(reinterpret_cast<const char *>(each), each->size);
+        }
     }
     return octets;
 }
