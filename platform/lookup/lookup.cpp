@@ -70,8 +70,11 @@ const char *read_file(int file, catalogue_text &out)
 catalogue_text read_catalogue(const char *path)
 {
     catalogue_text text{};
-    // Not to wait for a writer when somebody names a FIFO.
-    int file = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    int file;
+    do {
+        // Not to wait for a writer when somebody names a FIFO.
+        file = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    } while (file < 0 && errno == EINTR);
     const char *reason = file < 0 ? strerrordesc_np(errno) : read_file(file, text);
     if (reason != nullptr)
         fprintf(stderr, "%s: %s\n", path, reason);

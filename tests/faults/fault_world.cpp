@@ -1,5 +1,8 @@
 #include "faults/fault_world.h"
 
+#include "faults/record_octets.h"
+#include "frame/side_records.h"
+#include "load/document_kind.h"
 #include "support/fake_platform.h"
 
 #include <gtest/gtest.h>
@@ -42,6 +45,20 @@ unit with_document_type(const unit &plain)
             plain.pi_hw_type};
 }
 
+// Texts and octets beyond what one block of the decoded document holds.
+unit with_long_values()
+{
+    std::string text = load_world::text_of(load_world::path_of(load_world::module_document()));
+    const auto lengthen = [&text](const std::string &value, char by) {
+        const size_t at = text.find(value);
+        EXPECT_NE(at, std::string::npos) << value;
+        text.insert(at, 40000, by);
+    };
+    lengthen("board sensor", 'x');
+    lengthen("01</channelNumber>", '0');
+    return {"long_values", load_world::scratch_file("long_values.xml", text), 3};
+}
+
 std::string octets_of(const void *from, size_t size)
 {
     return from == nullptr ? std::string() : std::string(static_cast<const char *>(from), size);
@@ -52,7 +69,7 @@ std::string octets_of(const void *from, size_t size)
 // An array of EIDs that a query has made; released here.
 answer eids_answered(uint32_t status, sch_eid_type *eids, size_t count)
 {
-    answer given = {status != 0, octets_of(eids, status == 0 ? count * sizeof *eids : 0)};
+    answer given = {status != 0, octets_of(eids, status == 0 ? count * sizeof *eids : 0), 0, sizeof *eids};
     if (status == 0)
         inv_parser_free_eid_tree(eids);
     return given;
@@ -95,16 +112,29 @@ answer ask_data(const files &about, const sch_eid_type &eid)
     uint32_t status = inv_parser_get_eid_data(about.handle, &entity, eid);
     if (status != 0 || entity == nullptr)
         return {};
-    return {false, octets_of(entity->name, sizeof entity->name) + std::to_string(entity->xml_instance) + " " +
-                       std::to_string(entity->owner) + " " + std::to_string(entity->field_present)};
+    return {false, record_octets(*entity), 0, record_item_size};
+}
+
+// No call gives the unit's record as a whole: clients reach it through the handle.
+answer ask_unit(const files &about)
+{
+    if (!has_unit(*about.handle))
+        return {};
+    return {false, unit_octets(*about.handle), 0, record_item_size};
 }
 
 template <class Sequence>
-std::string octets_of_sequence(const Sequence *sequence)
+std::string head_of(const Sequence *sequence)
 {
-    return sequence == nullptr
-               ? "none"
-               : octets_of(sequence, sizeof *sequence + sequence->hop_count * sizeof sequence->hops[0]);
+    return sequence == nullptr ? std::string(sizeof *sequence, '\xFF')
+                               : octets_of(sequence, sizeof *sequence);
+}
+
+template <class Sequence>
+std::string hops_of(const Sequence *sequence)
+{
+    return sequence == nullptr ? ""
+                               : octets_of(sequence->hops, sequence->hop_count * sizeof sequence->hops[0]);
 }
 
 template <class Sequence>
@@ -113,7 +143,8 @@ answer sequence_answered(uint32_t status, Sequence *sequence, void (*release)(Se
     // Kept: the form by EID succeeds without a sequence.
     if (sequence == nullptr)
         return {};
-    answer given = {status != 0, octets_of_sequence(sequence)};
+    answer given = {status != 0, head_of(sequence) + hops_of(sequence), sizeof *sequence,
+                    sizeof sequence->hops[0]};
     release(sequence);
     return given;
 }
@@ -123,7 +154,9 @@ answer pair_answered(uint32_t status, Pair *pair)
 {
     if (pair == nullptr)
         return {};
-    answer given = {status != 0, octets_of_sequence(pair->slot0) + "|" + octets_of_sequence(pair->slot1)};
+    const std::string heads = head_of(pair->slot0) + head_of(pair->slot1);
+    answer given = {status != 0, heads + hops_of(pair->slot0) + hops_of(pair->slot1), heads.size(),
+                    sizeof pair->slot0->hops[0]};
     inv_parser_free_remote_i2c_access_sequence(pair);
     return given;
 }
@@ -132,7 +165,7 @@ answer pair_answered(uint32_t status, Pair *pair)
 struct i2c {
     using sequence = sch_i2c_access_seq_type;
     using pair = sch_i2c_access_seq_pair_type;
-    static constexpr const char *names[] = {"i2c by xml instance", "i2c by EID", "i2c from control card"};
+    static constexpr const char *family = "i2c";
     static constexpr auto by_xml_inst = inv_parser_get_i2c_access_sequence_by_xml_inst;
     static constexpr auto by_eid = inv_parser_get_i2c_access_sequence_by_eid;
     static constexpr auto from_card = inv_parser_get_i2c_access_sequence_from_control_card;
@@ -142,7 +175,7 @@ struct i2c {
 struct pcie {
     using sequence = sch_pcie_access_seq_type;
     using pair = sch_pcie_access_seq_pair_type;
-    static constexpr const char *names[] = {"pcie by xml instance", "pcie by EID", "pcie from control card"};
+    static constexpr const char *family = "pcie";
     static constexpr auto by_xml_inst = inv_parser_get_pcie_access_sequence_by_xml_inst;
     static constexpr auto by_eid = inv_parser_get_pcie_access_sequence_by_eid;
     static constexpr auto from_card = inv_parser_get_pcie_access_sequence_from_control_card;
@@ -152,17 +185,18 @@ struct pcie {
 template <class Family>
 void add_sequences(std::vector<question> &all, const sch_eid_type &eid, uint16_t xml_instance)
 {
-    all.push_back({Family::names[0], [=](const files &about) {
+    const std::string name = std::string("inv_parser_get_") + Family::family + "_access_sequence_";
+    all.push_back({name + "by_xml_inst", [=](const files &about) {
                        typename Family::sequence *made = nullptr;
                        uint32_t status = Family::by_xml_inst(about.handle, xml_instance, &made);
                        return sequence_answered(status, made, Family::release);
                    }});
-    all.push_back({Family::names[1], [=](const files &about) {
+    all.push_back({name + "by_eid", [=](const files &about) {
                        typename Family::sequence *made = nullptr;
                        uint32_t status = Family::by_eid(about.handle, &eid, &made);
                        return sequence_answered(status, made, Family::release);
                    }});
-    all.push_back({Family::names[2], [=](const files &about) {
+    all.push_back({name + "from_control_card", [=](const files &about) {
                        typename Family::pair *made = nullptr;
                        uint32_t status = Family::from_card(about.card, about.handle, ORVL_NODE_TYPE_LINECARD,
                                                            3, &eid, &made);
@@ -172,14 +206,17 @@ void add_sequences(std::vector<question> &all, const sch_eid_type &eid, uint16_t
 
 void add_queries(std::vector<question> &all, const std::set<std::pair<uint8_t, uint8_t>> &kinds)
 {
-    all.push_back({"root EID", ask_root});
+    all.push_back({"inv_parser_get_root_eid", ask_root});
+    all.push_back({"inv_parser_open_xml_file", ask_unit});
     for (uint32_t owner : owners) {
-        all.push_back({"EID tree", [=](const files &about) { return ask_tree(about, owner, nullptr); }});
+        all.push_back(
+            {"inv_parser_get_eid_tree", [=](const files &about) { return ask_tree(about, owner, nullptr); }});
         for (const auto &kind : kinds) {
             const uint8_t type = kind.first;
-            all.push_back({"EIDs by type", [=](const files &about) { return ask_type(about, owner, type); }});
+            all.push_back({"inv_parser_get_eid_by_type",
+                           [=](const files &about) { return ask_type(about, owner, type); }});
             for (uint8_t asked : {kind.second, uint8_t{INV_ANY_SUBTYPE}})
-                all.push_back({"EIDs by subtype",
+                all.push_back({"inv_parser_get_eid_by_type_subtype",
                                [=](const files &about) { return ask_subtype(about, owner, type, asked); }});
         }
     }
@@ -188,19 +225,19 @@ void add_queries(std::vector<question> &all, const std::set<std::pair<uint8_t, u
 void add_idproms(std::vector<question> &all)
 {
     for (uint32_t node_type = 0; node_type < INV_CC_SLOT_LIST_COUNT; ++node_type) {
-        all.push_back({"idprom", [=](const files &about) {
+        all.push_back({"inv_parser_get_container_list_i2c_idprom_access_info", [=](const files &about) {
                            sch_i2c_access_seq_type *made = nullptr;
                            uint32_t status = inv_parser_get_container_list_i2c_idprom_access_info(
                                about.chassis, node_type, &made);
                            return sequence_answered(status, made, inv_parser_free_i2c_access_sequence);
                        }});
-        all.push_back({"remote idprom", [=](const files &about) {
-                           sch_i2c_access_seq_pair_type *made = nullptr;
-                           uint32_t status =
-                               inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card(
-                                   about.card, about.chassis, node_type, 1, &made);
-                           return pair_answered(status, made);
-                       }});
+        all.push_back(
+            {"inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card", [=](const files &about) {
+                 sch_i2c_access_seq_pair_type *made = nullptr;
+                 uint32_t status = inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card(
+                     about.card, about.chassis, node_type, 1, &made);
+                 return pair_answered(status, made);
+             }});
     }
 }
 
@@ -250,10 +287,34 @@ std::vector<unit> small_units()
     return all;
 }
 
+bool has_unit(const inv_xml_handle &handle)
+{
+    if (handle.root == nullptr)
+        return false;
+    if (handle.module_record != nullptr)
+        return handle.root->record == &handle.module_record->base;
+    return inv::loaded_kind(&handle) != static_cast<uint8_t>(inv::load::document_kind::without_unit);
+}
+
+bool is_part_of(const answer &given, const answer &whole)
+{
+    if (whole.part == 0 || given.octets.size() > whole.octets.size())
+        return false;
+    std::set<std::string_view> parts;
+    for (size_t at = whole.head; at < whole.octets.size(); at += whole.part)
+        parts.insert(std::string_view(whole.octets).substr(at, whole.part));
+    for (size_t at = given.head; at < given.octets.size(); at += given.part)
+        if (!parts.contains(std::string_view(given.octets).substr(at, given.part)))
+            return false;
+    return true;
+}
+
 const std::vector<unit> &units()
 {
     static const std::vector<unit> all = [] {
         std::vector<unit> made = small_units();
+        made.push_back(with_long_values());
+        made.push_back(with_document_type(made.back()));
         for (const sample &each : samples)
             made.push_back({each.name, sample_path(each.name), each.pi_hw_type});
         return made;
@@ -279,10 +340,12 @@ std::vector<question> all_questions(const files &about)
         sch_base_entity_type *entity = nullptr;
         if (inv_parser_get_eid_data(about.handle, &entity, eid) != 0)
             continue;
-        all.push_back({"EID data", [=](const files &of) { return ask_data(of, eid); }});
-        all.push_back({"EID tree", [=](const files &of) { return ask_tree(of, owners[0], &eid); }});
+        all.push_back({"inv_parser_get_eid_data", [=](const files &of) { return ask_data(of, eid); }});
+        all.push_back(
+            {"inv_parser_get_eid_tree", [=](const files &of) { return ask_tree(of, owners[0], &eid); }});
         if (entity->hw_signals.i2c_path.command_list != nullptr)
-            all.push_back({"I2C commands", [=](const files &of) { return ask_commands(of, eid); }});
+            all.push_back({"inv_parser_retrieve_i2c_sequence_info",
+                           [=](const files &of) { return ask_commands(of, eid); }});
         add_sequences<i2c>(all, eid, entity->xml_instance);
         add_sequences<pcie>(all, eid, entity->xml_instance);
     }

@@ -34,13 +34,23 @@ std::vector<unit> small_units();
 
 inv_xml_handle *open_unit(const unit &which, size_t generation = 0);
 
+// False where the tree is empty, or headed by another entity of the file: of a unit's node for which there
+// was no memory.
+bool has_unit(const inv_xml_handle &handle);
+
 // What a call has answered, in octets that can be compared between two openings of a document.
 struct answer {
     bool failed = true;
     std::string octets;
+    // Of an answer that has parts: octets in front of them, and of each. 0: it has none.
+    size_t head = 0;
+    size_t part = 0;
 
     bool operator==(const answer &) const = default;
 };
+
+// Some parts of the whole answer, and nothing that is none.
+bool is_part_of(const answer &given, const answer &whole);
 
 // The file that is asked about, and those that some calls need as well.
 struct files {
@@ -50,7 +60,7 @@ struct files {
 };
 
 struct question {
-    const char *entry_point;
+    std::string entry_point;  // as the library exports it
     std::function<answer(const files &)> ask;
 };
 

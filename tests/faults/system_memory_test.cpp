@@ -3,11 +3,20 @@
 #include "inv_parser/inv_parser.h"
 #include "inv_platform/system_memory.h"
 
+#include "faults/record_octets.h"
+#include "frame/channel.h"
+#include "inv_parser/base_entity.h"
+#include "inv_platform/trace.h"
+
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <set>
 #include <string>
 #include <sys/mman.h>
 #include <vector>
@@ -162,6 +171,35 @@ TEST(SystemMemory, a_block_that_cannot_grow_stays_as_it_is)
     EXPECT_EQ(inv::memory::map(SIZE_MAX - 4095), nullptr);
 }
 
+// ---- The start of the library: its trace channel ------------------------------------------------------
+
+TEST(SystemMemory, a_library_that_starts_without_memory_works_untraced_and_may_start_again)
+{
+    uint32_t requests_met = 0;
+    for (bool all : {false, true}) {
+        bool failed = true;
+        for (order given = {1, all}; failed; ++given.n) {
+            SCOPED_TRACE("request " + std::to_string(given.n));
+            inv::frame::inv_schema_trace_handle = nullptr;
+            inv::frame::trace_ready = 0;
+            qtrace_configuration config = {sizeof config, 0, "/nowhere/at/all"};
+            begin(given);
+            testing::internal::CaptureStderr();
+            EXPECT_EQ(inv_parser_init(&config), 0u);
+            const std::string told = testing::internal::GetCapturedStderr();
+            failed = end();
+            requests_met += failed;
+            void *channel = nullptr;
+            const bool is_open = inv_schema_get_qtrace_hdl(&channel) == 0;
+            EXPECT_EQ(is_open, told.empty()) << told;
+            EXPECT_TRUE(is_open || failed);
+            EXPECT_EQ(inv_parser_init(nullptr), 0u);
+            EXPECT_EQ(inv_schema_get_qtrace_hdl(&channel), 0u);
+        }
+    }
+    EXPECT_EQ(requests_met, 6u) << "the channel, its ring and the configuration's path";
+}
+
 // ---- The library above it, with the reference platform: catalogue, trace, all of it --------------------
 
 struct unit {
@@ -178,26 +216,54 @@ constexpr unit units[] = {
     {12, 96, "CXP-120", false},
 };
 
-// The whole tree and a record, summed up; 0 for a failure.
-uint64_t answers_of(inv_xml_handle *handle)
+// One question after the other, each answer by itself; an empty one is a failure.
+using answers = std::vector<std::string>;
+
+std::string octets_of(const void *from, size_t size)
+{
+    return std::string(static_cast<const char *>(from), size);
+}
+
+std::vector<sch_eid_type> tree_of(inv_xml_handle *handle)
 {
     sch_eid_type *eids = nullptr;
     uint32_t count = 0;
     if (inv_parser_get_eid_tree(handle, ORVL_ENTITY_OWNER_TYPE_ALL, nullptr, &eids, &count) != 0)
-        return 0;
-    uint64_t sum = count;
-    for (uint32_t i = 0; i < count; ++i) {
-        sch_base_entity_type *entity = nullptr;
-        if (inv_parser_get_eid_data(handle, &entity, eids[i]) == 0)
-            sum += sum_of(entity->name, sizeof entity->name) + sum_of(&eids[i], sizeof eids[i]);
-        sch_i2c_access_seq_type *way = nullptr;
-        inv_parser_get_i2c_access_sequence_by_eid(handle, &eids[i], &way);
-        if (way != nullptr)
-            sum += sum_of(way, sizeof *way + way->hop_count * sizeof way->hops[0]);
-        inv_parser_free_i2c_access_sequence(way);
-    }
+        return {};
+    std::vector<sch_eid_type> all(eids, eids + count);
     inv_parser_free_eid_tree(eids);
-    return sum;
+    return all;
+}
+
+std::string record_of(inv_xml_handle *handle, const sch_eid_type &eid)
+{
+    sch_base_entity_type *entity = nullptr;
+    if (inv_parser_get_eid_data(handle, &entity, eid) != 0)
+        return "";
+    return fault_world::record_octets(*entity);
+}
+
+std::string hops_to(inv_xml_handle *handle, const sch_eid_type &eid)
+{
+    sch_i2c_access_seq_type *way = nullptr;
+    inv_parser_get_i2c_access_sequence_by_eid(handle, &eid, &way);
+    if (way == nullptr)
+        return "";
+    std::string octets = octets_of(way, sizeof *way + way->hop_count * sizeof way->hops[0]);
+    inv_parser_free_i2c_access_sequence(way);
+    return octets;
+}
+
+// The tree, then two questions about each of the entities, whether the tree has them or not.
+answers answers_of(inv_xml_handle *handle, const std::vector<sch_eid_type> &entities)
+{
+    const std::vector<sch_eid_type> tree = tree_of(handle);
+    answers all = {octets_of(tree.data(), tree.size() * sizeof tree[0])};
+    for (const sch_eid_type &eid : entities) {
+        all.push_back(record_of(handle, eid));
+        all.push_back(hops_to(handle, eid));
+    }
+    return all;
 }
 
 inv_xml_handle *open_unit(const unit &which)
@@ -223,34 +289,155 @@ INSTANTIATE_TEST_SUITE_P(Samples, SystemMemoryFaults, testing::ValuesIn(units), 
     return "pi_hw_type_" + std::to_string(info.param.pi_hw_type);
 });
 
+// A channel of the test's own in place of the library's, small enough to be read often.
+class short_channel
+{
+public:
+    short_channel() : before(inv::frame::inv_schema_trace_handle)
+    {
+        EXPECT_EQ(qtrace_open_internal(&channel, "short", 1 << 14, 0, "", "", 0), 0);
+        inv::frame::inv_schema_trace_handle = channel;
+    }
+    ~short_channel()
+    {
+        inv::frame::inv_schema_trace_handle = before;
+    }
+    short_channel(const short_channel &) = delete;
+    short_channel &operator=(const short_channel &) = delete;
+
+    void mark() const
+    {
+        qtrace_internal(channel, marker, 4, 0, "", "\n");
+    }
+    // The lines since the last mark, as far as there is room for them.
+    std::set<uint32_t> since_mark() const
+    {
+        std::set<uint32_t> ids;
+        qtrace_read(
+            channel,
+            [](void *user, uint32_t id, const char *) {
+                auto &all = *static_cast<std::set<uint32_t> *>(user);
+                if (id == marker)
+                    all.clear();
+                else
+                    all.insert(id);
+            },
+            &ids);
+        return ids;
+    }
+
+private:
+    static constexpr uint32_t marker = 1000000;
+    void *before;
+    void *channel = nullptr;
+};
+
+struct life {
+    std::string head;  // name of the top entity
+    answers given;
+    std::set<uint32_t> lines;  // of open and questions
+};
+
+bool tells_more(const std::set<uint32_t> &than, const std::set<uint32_t> &wanted)
+{
+    return !std::includes(wanted.begin(), wanted.end(), than.begin(), than.end());
+}
+
+// Octets in front of the parts of an answer, and of each part: the tree's entities, a record's items, or a
+// way's hops.
+struct shape {
+    size_t head;
+    size_t part;
+};
+
+shape shape_of(size_t question)
+{
+    if (question == 0)
+        return {0, sizeof(sch_eid_type)};
+    return question % 2 == 1 ? shape{0, fault_world::record_item_size}
+                             : shape{sizeof(sch_i2c_access_seq_type), sizeof(sch_i2c_access_hop_type)};
+}
+
+bool is_part_of(const std::string &given, const std::string &whole, const shape &of)
+{
+    std::set<std::string> parts;
+    for (size_t at = of.head; at < whole.size(); at += of.part)
+        parts.insert(whole.substr(at, of.part));
+    for (size_t at = of.head; at < given.size(); at += of.part)
+        if (!parts.contains(given.substr(at, of.part)))
+            return false;
+    return given.size() <= whole.size();
+}
+
+void expect_honest(const life &lived, const life &wanted)
+{
+    const bool is_told = tells_more(lived.lines, wanted.lines);
+    EXPECT_TRUE(is_told || lived.head == wanted.head);
+    // Without memory for the unit's node another entity heads the tree, and EIDs begin there.
+    if (lived.head != wanted.head)
+        return;
+    for (size_t i = 0; i < lived.given.size(); ++i) {
+        const std::string &given = lived.given[i];
+        if (given.empty() || given == wanted.given[i])
+            continue;
+        EXPECT_TRUE(is_told) << "question " << i << ": a wrong answer without a word";
+        EXPECT_TRUE(is_part_of(given, wanted.given[i], shape_of(i))) << "question " << i << ": no part of it";
+    }
+}
+
+life live_once(const unit &which, const std::vector<sch_eid_type> &entities, const short_channel &channel)
+{
+    life lived;
+    channel.mark();
+    inv_xml_handle *handle = open_unit(which);
+    lived.lines = channel.since_mark();
+    if (handle == nullptr)
+        return lived;
+    if (handle->root != nullptr)
+        lived.head = handle->root->record->name;
+    channel.mark();
+    lived.given = answers_of(handle, entities);
+    lived.lines.merge(channel.since_mark());
+    const bool stays = handle->root == nullptr && !which.is_module;
+    inv_parser_close_xml_file(handle);
+    // Kept: an empty handle stays allocated when it is not a module's.
+    if (stays)
+        free(handle);
+    return lived;
+}
+
+size_t descriptors()
+{
+    namespace fs = std::filesystem;
+    return static_cast<size_t>(
+        std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
+}
+
 void sweep(const unit &which, bool all, uint64_t *points)
 {
+    const short_channel channel;
     inv_xml_handle *handle = open_unit(which);
     ASSERT_NE(handle, nullptr);
-    const uint64_t wanted = answers_of(handle);
-    EXPECT_NE(wanted, 0u);
+    const std::vector<sch_eid_type> entities = tree_of(handle);
+    EXPECT_FALSE(entities.empty());
     inv_parser_close_xml_file(handle);
     EXPECT_TRUE(mapped.empty());
+    const life wanted = live_once(which, entities, channel);
+    const size_t descriptors_before = descriptors();
     bool failed = true;
     for (order given = {1, all}; failed; ++given.n) {
         SCOPED_TRACE("request " + std::to_string(given.n));
         begin(given);
-        handle = open_unit(which);
-        const uint64_t got = handle == nullptr ? 0 : answers_of(handle);
-        const bool stays = handle != nullptr && handle->root == nullptr && !which.is_module;
-        if (handle != nullptr)
-            inv_parser_close_xml_file(handle);
+        const life lived = live_once(which, entities, channel);
         failed = end();
         *points += failed;
-        EXPECT_TRUE(failed || got == wanted);
-        // Kept: an empty handle stays allocated when it is not a module's.
-        if (stays)
-            free(handle);
-        handle = open_unit(which);
-        ASSERT_NE(handle, nullptr);
-        ASSERT_EQ(answers_of(handle), wanted);
-        inv_parser_close_xml_file(handle);
+        EXPECT_TRUE(failed || lived.given == wanted.given);
+        expect_honest(lived, wanted);
+        EXPECT_EQ(descriptors(), descriptors_before);
+        ASSERT_EQ(live_once(which, entities, channel).given, wanted.given);
         ASSERT_TRUE(mapped.empty());
+        ASSERT_EQ(descriptors(), descriptors_before);
+        ASSERT_FALSE(testing::Test::HasFailure());
     }
 }
 

@@ -11,6 +11,7 @@ struct small_document {
     std::string text;
     size_t chunk_size;
     int32_t status;  // that reading it ends with
+    uint32_t items = 5;
 };
 
 std::string document_with(const std::string &in_front, const std::string &reference,
@@ -24,6 +25,37 @@ std::string document_with(const std::string &in_front, const std::string &refere
            behind;
 }
 
+std::string many(const std::string &what, size_t count)
+{
+    std::string text;
+    for (size_t i = 0; i < count; ++i)
+        text += what;
+    return text;
+}
+
+std::string attributes(size_t count)
+{
+    std::string text;
+    for (size_t i = 0; i < count; ++i)
+        text += " a" + std::to_string(i) + "='1'";
+    return text;
+}
+
+// Every buffer grows at each of the places that write to it: what an item needs is more than all before it.
+std::string growing_document(const std::string &in_front)
+{
+    return in_front +
+           "<r xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:p='u' xsi:type='T' a='1'>" +
+           "<s>" + many("a", 300) + "<!-- -->b</s><s>x<![CDATA[" + many("c", 1000) + "]]></s><s>" +
+           many("d", 3000) + "<![CDATA[e]]></s><s>&amp;" + many("f", 10000) + "</s><s>" + many("g", 30000) +
+           "&amp;</s><s>" + many("h", 100000) + "\r\n</s><s" + attributes(100) + " long='" +
+           many("z", 200000) + "'>i</s><h>" + many("0f", 20000) + "</h><any>" + many("j", 300) + "<" +
+           many("k", 2000) + "/></any><any>123" + many("<l>m</l>", 40) + "</any>" + many("<v>1</v>", 1100) +
+           "</r>";
+}
+
+constexpr uint32_t growing_items = 10 + 1100;
+
 // By way of expat, and in place: within one piece of the document and in many.
 const small_document small_documents[] = {
     {document_with("<!DOCTYPE r [<!ENTITY e 'entity'><!ATTLIST r d CDATA 'default'>]>", "&e;", ""), 4096,
@@ -32,6 +64,8 @@ const small_document small_documents[] = {
     {document_with("", "&amp;", "<!-- -->"), 1, XB_OK},
     {document_with("", std::string(10000, 'x'), ""), 64, XB_OK},
     {document_with("", "&amp;", "x y"), 16, XB_E_MALFORMED},
+    {growing_document("<!DOCTYPE r>"), 1 << 20, XB_OK, growing_items},
+    {growing_document(""), 1 << 20, XB_OK, growing_items},
 };
 
 const xb_type_name_row types[] = {{"T", 1}};
@@ -105,7 +139,7 @@ int32_t walk_document(xb_context *ctx, const small_document &document)
     if (status != XB_OK)
         return rtxErrSetData(ctx, status, "walk", 2);
     EXPECT_EQ(declarations.count, 2U);
-    EXPECT_EQ(items.count, 5U);
+    EXPECT_EQ(items.count, document.items);
     return XB_OK;
 }
 

@@ -55,8 +55,11 @@ std::string read_octets(const std::string &file, std::string *octets)
 {
     if (file == standard_input)
         return read_to_end(STDIN_FILENO, octets);
-    // Not to wait for a writer when the name is that of a pipe.
-    const int opened = open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    int opened;
+    do {
+        // Not to wait for a writer when the name is that of a pipe.
+        opened = open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    } while (opened < 0 && errno == EINTR);
     if (opened < 0)
         return reason_of(errno);
     std::string reason = refusal_of(opened);
