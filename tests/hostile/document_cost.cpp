@@ -1,7 +1,7 @@
 #include "hostile/document_cost.h"
 
 #include "generate_document.h"
-#include "support/fake_platform.h"
+#include "inv_platform/lookup.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -11,10 +11,25 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace hostile
+namespace
 {
 
-uint64_t answers_found;
+std::string only_file;  // of every unit
+
+}  // namespace
+
+const char *platform_get_inv_xml_file_name(uint32_t, uint32_t, const char *)
+{
+    return only_file.c_str();
+}
+
+const char *platform_get_inv_xml_file_name_v2(const fru_xml_loc_info *)
+{
+    return only_file.c_str();
+}
+
+namespace hostile
+{
 
 namespace
 {
@@ -57,33 +72,62 @@ int64_t entities_of(inv_xml_handle *handle)
     return count;
 }
 
+// A failed open leaves its handle registered, and so that of a document without tree stays allocated after
+// the close.
+void release_what_stays(inv_xml_handle *closed_without_tree, uint32_t pi_hw_type)
+{
+    inv_xml_handle *handle = closed_without_tree;
+    if (handle == nullptr) {
+        handle = inv_parser_get_xml_handle(0, pi_hw_type, 0, "");
+        inv_schema_update_the_xml_handle_list(handle);
+    }
+    inv_schema_free_base_module_data(handle);
+}
+
+// Opens, asks and closes. Returns the handle if the close has left it.
+inv_xml_handle *use_document(uint32_t pi_hw_type, questions ask, cost *found)
+{
+    inv_xml_handle *handle = inv_parser_open_xml_file(0, pi_hw_type, 0, "");
+    found->entities = handle == nullptr ? refused : entities_of(handle);
+    if (handle != nullptr && ask != nullptr)
+        found->found = ask(handle);
+    const bool stays = handle != nullptr && handle->root == nullptr && pi_hw_type != line_card;
+    inv_parser_close_xml_file(handle);
+    return stays ? handle : nullptr;
+}
+
 cost measure(const document &d, uint32_t pi_hw_type, questions ask)
 {
     cost found;
-    fake_platform::set_only_file_name(d.path.c_str());
+    only_file = d.path;
     reset_peak();
     const uint64_t before = status_octets("VmRSS");
+    const live_memory at_first = live_now();
     const double start = processor_seconds();
-    inv_xml_handle *handle = inv_parser_open_xml_file(0, pi_hw_type, 0, "");
-    found.entities = handle == nullptr ? refused : entities_of(handle);
-    if (handle != nullptr && ask != nullptr)
-        ask(handle);
-    inv_parser_close_xml_file(handle);
+    inv_xml_handle *left = use_document(pi_hw_type, ask, &found);
     found.seconds = processor_seconds() - start;
     const uint64_t peak = status_octets("VmHWM");
     found.peak_octets = peak > before ? peak - before : 0;
-    found.answers = answers_found;
+    if (found.entities == refused || left != nullptr)
+        release_what_stays(left, pi_hw_type);
+    const live_memory at_last = live_now();
+    found.left.blocks = at_last.blocks - at_first.blocks;
+    found.left.mapped_octets = at_last.mapped_octets - at_first.mapped_octets;
     return found;
 }
 
 void keep_cheaper(cost *kept, const cost &next, int run)
 {
-    if (run > 0 && kept->entities != next.entities)
-        kept->entities = died;
-    else if (run == 0)
+    if (run == 0) {
         *kept = next;
+        return;
+    }
+    if (kept->entities != next.entities || kept->found != next.found)
+        kept->entities = died;
     kept->seconds = std::min(kept->seconds, next.seconds);
     kept->peak_octets = std::min(kept->peak_octets, next.peak_octets);
+    kept->left.blocks = std::max(kept->left.blocks, next.left.blocks);
+    kept->left.mapped_octets = std::max(kept->left.mapped_octets, next.left.mapped_octets);
 }
 
 }  // namespace
@@ -131,16 +175,15 @@ cost cost_of(const document &d, uint32_t pi_hw_type, questions ask)
     }
     close(ends[1]);
     cost measured;
-    if (read(ends[0], &measured, sizeof measured) == sizeof measured)
-        found = measured;
+    const bool told = read(ends[0], &measured, sizeof measured) == sizeof measured;
     close(ends[0]);
-    waitpid(child, nullptr, 0);
-    return found;
+    int status = 0;
+    const bool ended = waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return told && ended ? measured : found;
 }
 
 comparison compare(const document &of_hostile, uint32_t pi_hw_type, const document &plain, questions ask)
 {
-    constexpr uint32_t line_card = 3;
     comparison found;
     for (int run = 0; run < (is_instrumented() ? 1 : runs); ++run) {
         keep_cheaper(&found.of_hostile, cost_of(of_hostile, pi_hw_type, ask), run);

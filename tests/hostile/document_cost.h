@@ -1,9 +1,10 @@
 // What a document costs: processor time and greatest memory of an open, some questions and the close, in a
-// process of its own.
+// process of its own, with the memory that products have.
 #ifndef TESTS_HOSTILE_DOCUMENT_COST_H
 #define TESTS_HOSTILE_DOCUMENT_COST_H
 
-#include "inv_parser/inv_parser.h"
+#include "hostile/hostile_questions.h"
+#include "hostile/live_memory.h"
 
 #include <cstdint>
 #include <string>
@@ -12,7 +13,10 @@ namespace hostile
 {
 
 constexpr int64_t refused = -1;  // the open gave no handle
-constexpr int64_t died = -2;     // no answer at all: crashed, or not ready after two minutes
+constexpr int64_t died = -2;     // no answer, or no clean end: crashed, or not ready after two minutes
+
+// A hardware type that is a module.
+constexpr uint32_t line_card = 3;
 
 // A document in memory that has a file's name.
 struct document {
@@ -26,21 +30,18 @@ document make_document(const std::string &text);
 document make_sparse_document(const std::string &text, uint64_t octets);
 void remove_document(document *d);
 
-using questions = void (*)(inv_xml_handle *);
-
 struct cost {
     int64_t entities = died;   // of the open file, or one of the above
     double seconds = 0;        // processor time
     uint64_t peak_octets = 0;  // beyond what the process had before
-    uint64_t answers = 0;      // what the questions found
+    answers found;             // by the questions
+    live_memory left;          // not given back by the close, nor by the release of what the contract leaves
 };
-
-// Set by the questions in the measuring process.
-extern uint64_t answers_found;
 
 cost cost_of(const document &d, uint32_t pi_hw_type, questions ask);
 
-// The cheapest of several runs of each, taken in turn so that both see the same load of the machine.
+// The cheapest of several runs of each, taken in turn so that both see the same load of the machine. Runs
+// that differ in what they found count as died; of what they left, the most.
 struct comparison {
     cost of_hostile;
     cost of_plain;

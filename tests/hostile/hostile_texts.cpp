@@ -3,13 +3,31 @@
 namespace hostile
 {
 
-std::string module_text(const std::string &prolog, const std::string &attributes, const std::string &content)
+namespace
 {
-    return prolog +
-           "<module name=\"m\" type=\"ORVL_ENTITY_TYPE_MODULE\" "
+
+std::string destination(const char *applicable, const char *node_type, unsigned position)
+{
+    return std::string("<dstInfo><description>d</description><applicable>") + applicable +
+           "</applicable><nodeInfo><nodeType>" + node_type + "</nodeType><nodePosition>" +
+           std::to_string(position) + "</nodePosition></nodeInfo></dstInfo>";
+}
+
+}  // namespace
+
+std::string unit_text(const std::string &prolog, const std::string &root, const std::string &attributes,
+                      const std::string &content)
+{
+    return prolog + "<" + root +
+           " name=\"m\" type=\"ORVL_ENTITY_TYPE_MODULE\" "
            "subtype=\"ORVL_ENTITY_SUBTYPE_MODULE_MOTHER_BOARD\" "
            "instance=\"0\" replicationScope=\"ORVL_REPLICATION_TYPE_NODE\" xmlInstance=\"1\"" +
-           attributes + ">" + content + "</module>";
+           attributes + ">" + content + "</" + root + ">";
+}
+
+std::string module_text(const std::string &prolog, const std::string &attributes, const std::string &content)
+{
+    return unit_text(prolog, "module", attributes, content);
 }
 
 std::string repeated(const std::string &piece, unsigned times)
@@ -41,20 +59,30 @@ std::string laughs_of(const std::string &seed)
     return text + "]>";
 }
 
-std::string mux(unsigned instance, unsigned first, unsigned ports)
+std::string device(const bus_text &bus, unsigned instance, const std::string &ports)
 {
-    std::string text =
-        "<i2c name=\"x\" type=\"ORVL_ENTITY_TYPE_MODULE\" subtype=\"ORVL_ENTITY_SUBTYPE_MODULE_I2C_MUX\" "
-        "instance=\"" +
-        std::to_string(instance % 65536) +
-        "\" replicationScope=\"ORVL_REPLICATION_TYPE_NODE\" xmlInstance=\"" + std::to_string(instance) +
-        "\"><i2cNode><deviceType>ORVL_I2CDEV_TYPE_I2CMUX</deviceType></i2cNode>";
-    for (unsigned i = 0; i < ports; ++i)
-        text += "<i2cPort><portType>ORVL_PORT_TYPE_MUX</portType><channelNumber>01</channelNumber><dstInfo>"
-                "<description>d</description><applicable>ORVL_CTRL_SLOT_ANY</applicable><nodeInfo>"
-                "<nodeType>ORVL_NODE_TYPE_ENTITY</nodeType><nodePosition>" +
-                std::to_string(first + i) + "</nodePosition></nodeInfo></dstInfo></i2cPort>";
-    return text + "</i2c>";
+    const std::string number = std::to_string(instance);
+    return "<i2c name=\"x\" type=\"ORVL_ENTITY_TYPE_MODULE\" subtype=\"ORVL_ENTITY_SUBTYPE_MODULE_I2C_MUX\" "
+           "instance=\"" +
+           number + "\" replicationScope=\"ORVL_REPLICATION_TYPE_NODE\" xmlInstance=\"" + number + "\">" +
+           bus.node + ports + "</i2c>";
+}
+
+std::string ports_to(const bus_text &bus, unsigned first, unsigned count)
+{
+    std::string text;
+    for (unsigned i = 0; i < count; ++i)
+        text += bus.port + destination("ORVL_CTRL_SLOT_ANY", "ORVL_NODE_TYPE_ENTITY", first + i) +
+                bus.end_of_port;
+    return text;
+}
+
+std::string port_to_slots(const bus_text &bus, unsigned count)
+{
+    std::string text = bus.port;
+    for (unsigned i = 0; i < count; ++i)
+        text += destination("ORVL_CTRL_SLOT_0", "ORVL_NODE_TYPE_LINECARD", i);
+    return text + bus.end_of_port;
 }
 
 }  // namespace hostile

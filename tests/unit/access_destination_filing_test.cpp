@@ -1,5 +1,6 @@
 #include "access/slot_lookup.h"
 #include "frame/file_memory.h"
+#include "frame/side_records.h"
 #include "support/current_file_fixture.h"
 
 #include <array>
@@ -373,6 +374,100 @@ TEST_F(SlotLookup, a_list_that_is_there_already_is_searched_literally_when_its_t
         EXPECT_EQ(counting_memory::live(), live) << n;
         counting_memory::reset();
     }
+}
+
+// With tables that stay, made by a load.
+class FiledSlots : public SlotLookup
+{
+protected:
+    void SetUp() override
+    {
+        SlotLookup::SetUp();
+        ASSERT_TRUE(inv::frame::add_side_record(&handle));
+        inv::begin_load(&handle);
+        {
+            inv::slot_lookup_scope scope(&handle);
+            file_many();
+        }
+        inv::end_load(true);
+    }
+    void TearDown() override
+    {
+        take_down();
+        inv::release_file_memory(&handle);
+        SlotLookup::TearDown();
+    }
+    void expect_literal_answer(sch_cc_slot_xml_inst_type **heads, uint32_t index, uint32_t key)
+    {
+        EXPECT_EQ(inv::find_filed_slot(&handle, heads, index, key),
+                  parser_verify_is_slot_xml_inst_available(heads[index], key, 0))
+            << index << " " << key;
+    }
+    // Positions of file_many() are multiples of 61.
+    void expect_literal_answers(sch_cc_slot_xml_inst_type **heads)
+    {
+        for (uint32_t index = 0; index < INV_CC_SLOT_LIST_COUNT; ++index) {
+            for (uint32_t key = 0; key <= 0x10000; key += 61) {
+                expect_literal_answer(heads, index, key);
+                expect_literal_answer(heads, index, key + 1);
+            }
+        }
+    }
+};
+
+TEST_F(FiledSlots, are_found_as_a_search_finds_them)
+{
+    ASSERT_NE(inv::get_side_table(&handle, inv::side_table::slots), nullptr);
+    expect_literal_answers(handle.i2c_cc_slot_lists);
+    expect_literal_answers(handle.pcie_cc_slot_lists);
+}
+
+TEST_F(FiledSlots, are_found_as_a_search_finds_them_in_a_list_that_was_extended)
+{
+    auto *element = inv::record_new<sch_cc_slot_xml_inst_type>();
+    element->key = 7;
+    parser_insert_cc_slot_xml_inst(handle.i2c_cc_slot_lists, line_card, element);
+    EXPECT_EQ(inv::find_filed_slot(&handle, handle.i2c_cc_slot_lists, line_card, 7), element);
+}
+
+TEST_F(FiledSlots, are_found_as_a_search_finds_them_in_a_list_that_was_freed_and_filled_anew)
+{
+    parser_free_cc_slot_xml_inst(handle.i2c_cc_slot_lists);
+    for (uint16_t key = 0; key < 6100; key = static_cast<uint16_t>(key + 61)) {
+        auto *element = inv::record_new<sch_cc_slot_xml_inst_type>();
+        element->key = key;
+        parser_insert_cc_slot_xml_inst(handle.i2c_cc_slot_lists, line_card, element);
+    }
+    expect_literal_answers(handle.i2c_cc_slot_lists);
+    expect_literal_answers(handle.pcie_cc_slot_lists);
+}
+
+TEST_F(FiledSlots, of_a_later_load_have_no_table_where_elements_stood_before)
+{
+    {
+        inv::slot_lookup_scope scope(&handle);
+        file_i2c(line_card, 7, SCH_CTRL_SLOT_ANY, 1);
+    }
+    EXPECT_EQ(inv::get_side_table(&handle, inv::side_table::slots), nullptr);
+    EXPECT_NE(inv::find_filed_slot(&handle, handle.i2c_cc_slot_lists, line_card, 7), nullptr);
+}
+
+TEST_F(SlotLookup, without_memory_to_keep_a_table_lists_are_searched)
+{
+    ASSERT_TRUE(inv::frame::add_side_record(&handle));
+    const uint64_t before = counting_memory::live();
+    {
+        inv::slot_lookup_scope scope(&handle);
+        file_many();
+        counting_memory::fail_at(1);
+    }
+    EXPECT_TRUE(counting_memory::failed());
+    counting_memory::reset();
+    EXPECT_EQ(inv::get_side_table(&handle, inv::side_table::slots), nullptr);
+    const size_t filed =
+        contents(handle.i2c_cc_slot_lists).size() + contents(handle.pcie_cc_slot_lists).size();
+    EXPECT_EQ(counting_memory::live(), before + filed);
+    inv::release_file_memory(&handle);
 }
 
 // Each request of a filing sequence fails once; only requests for records may show.

@@ -1,15 +1,15 @@
 #include "access/control_card.h"
 
-#include "inv_parser/tree_internal.h"
+#include "access/slot_lookup.h"
 
 using namespace inv;
 
-slot_ways inv::find_slot_ways(sch_cc_slot_xml_inst_type **heads, uint32_t type, uint32_t position)
+slot_ways inv::find_slot_ways(inv_xml_handle *card, sch_cc_slot_xml_inst_type **heads, uint32_t type,
+                              uint32_t position)
 {
     if (type >= INV_CC_SLOT_LIST_COUNT)
         return {};
-    const sch_cc_slot_xml_inst_type *element =
-        parser_verify_is_slot_xml_inst_available(heads[type], position, 0);
+    const sch_cc_slot_xml_inst_type *element = find_filed_slot(card, heads, type, position);
     if (element == nullptr)
         return {};
     // Kept: of a channel or port 8 bits are read back.

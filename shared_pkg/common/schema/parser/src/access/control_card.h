@@ -22,8 +22,9 @@ struct slot_ways {
     slot_way slot1;
 };
 
-// `heads`: the slot lists of one family. The first element with the low 16 bits of position counts.
-slot_ways find_slot_ways(sch_cc_slot_xml_inst_type **heads, uint32_t type, uint32_t position);
+// `heads`: the card's slot lists of one family. The first element with the low 16 bits of position counts.
+slot_ways find_slot_ways(inv_xml_handle *card, sch_cc_slot_xml_inst_type **heads, uint32_t type,
+                         uint32_t position);
 
 // What a join has in hand. Whatever is left at its end goes back.
 template <class Family>
@@ -115,7 +116,7 @@ uint32_t build_from_control_card(inv_xml_handle *card, inv_xml_handle *device, u
     }
     if (card == nullptr)
         return 1;
-    slot_ways ways = find_slot_ways(Family::slot_lists(card), type, position);
+    slot_ways ways = find_slot_ways(card, Family::slot_lists(card), type, position);
     if (!build_to_slot<Family, typename Messages::slot0_failed>(card, ways.slot0, &parts.slot0) ||
         !build_to_slot<Family, typename Messages::slot1_failed>(card, ways.slot1, &parts.slot1))
         return 1;

@@ -154,7 +154,7 @@ uint32_t inv_parser_get_remote_idprom_i2c_access_sequence_from_control_card(
     }
     if (cc == nullptr)
         return 1;
-    slot_ways ways = find_slot_ways(i2c_family::slot_lists(cc), type, position);
+    slot_ways ways = find_slot_ways(cc, i2c_family::slot_lists(cc), type, position);
     if (!join_idprom<msg::remote_idprom_slot0_failed, msg::remote_idprom_slot0_no_memory>(
             cc, ways.slot0, parts.tail, idprom_count, &parts.slot0, &parts.pair->slot0) ||
         !join_idprom<msg::remote_idprom_slot1_failed, msg::remote_idprom_slot1_no_memory>(

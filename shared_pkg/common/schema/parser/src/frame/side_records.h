@@ -12,8 +12,8 @@ namespace inv
 {
 
 // Tables that make queries on a handle fast; each subsystem owns its own.
-enum class side_table : uint8_t { eid_lookup, instances, type_index };
-inline constexpr size_t side_table_count = 3;
+enum class side_table : uint8_t { eid_lookup, instances, type_index, slots };
+inline constexpr size_t side_table_count = 4;
 
 using side_table_release = void (*)(void *table);
 
