@@ -1,6 +1,7 @@
 #include "trace/record.h"
 
 #include <errno.h>
+#include <pthread.h>
 #include <string.h>
 #include <time.h>
 #include <unistd.h>
@@ -11,11 +12,23 @@ namespace inv::trace
 namespace
 {
 
+// 0: not asked for yet.
+thread_local uint32_t thread_id = 0;
+
+void forget_thread()
+{
+    thread_id = 0;
+}
+
+// The child of a fork goes on with the memory of the thread that forked, but not with its id.
 uint32_t this_thread()
 {
-    thread_local uint32_t id = 0;
-    if (id == 0)
-        id = static_cast<uint32_t>(gettid());
+    if (thread_id != 0)
+        return thread_id;
+    static const bool forgets_after_fork = pthread_atfork(nullptr, nullptr, forget_thread) == 0;
+    const auto id = static_cast<uint32_t>(gettid());
+    if (forgets_after_fork)
+        thread_id = id;
     return id;
 }
 

@@ -124,6 +124,11 @@ void release_armed(armed_state *armed)
     memory::release(armed);
 }
 
+void begin_document(armed_state &armed)
+{
+    std::fill(std::begin(armed.open), std::end(armed.open), open_item{});
+}
+
 bool may_record(const xb_context_state &state)
 {
     return state.armed == nullptr || state.errors.count < XB_MAX_ARMED_ERRORS;

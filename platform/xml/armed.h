@@ -32,6 +32,9 @@ struct armed_state {
     open_item open[XB_MAX_DEPTH];  // by depth
 };
 
+// Forgets the elements that are open: the next document has others at the same places.
+void begin_document(armed_state &armed);
+
 void release_armed(armed_state *armed);
 
 // False when an armed context has recorded all errors that it may.

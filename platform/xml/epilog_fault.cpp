@@ -18,8 +18,11 @@ bool open_epilog_fault(epilog_fault &fault, const position &start)
     fault = {XML_ParserCreate_MM("UTF-8", &memory_suite, nullptr), start};
     if (fault.parser == nullptr)
         return false;
-    look_for_fault(fault, root, false);
-    return true;
+    if (!look_for_fault(fault, root, false))
+        return true;
+    XML_ParserFree(fault.parser);
+    fault.parser = nullptr;
+    return false;
 }
 
 bool look_for_fault(epilog_fault &fault, std::string_view octets, bool is_last)
@@ -29,13 +32,15 @@ bool look_for_fault(epilog_fault &fault, std::string_view octets, bool is_last)
 
 XML_Error close_epilog_fault(epilog_fault &fault, position &place)
 {
+    const XML_Error error = XML_GetErrorCode(fault.parser);
     const uint64_t line = XML_GetCurrentLineNumber(fault.parser);
     const uint64_t column = XML_GetCurrentColumnNumber(fault.parser);
     const auto index = static_cast<uint64_t>(XML_GetCurrentByteIndex(fault.parser));
-    place.line = fault.start.line + line - 1;
-    place.column = line == 1 ? fault.start.column + column - root.size() : column + 1;
-    place.offset = fault.start.offset + index - root.size();
-    const XML_Error error = XML_GetErrorCode(fault.parser);
+    if (error != XML_ERROR_NO_MEMORY) {
+        place.line = fault.start.line + line - 1;
+        place.column = line == 1 ? fault.start.column + column - root.size() : column + 1;
+        place.offset = fault.start.offset + index - root.size();
+    }
     XML_ParserFree(fault.parser);
     fault.parser = nullptr;
     return error;

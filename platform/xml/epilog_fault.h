@@ -16,13 +16,13 @@ struct epilog_fault {
     position start;  // of the octets that it gets, complete
 };
 
-// False when memory is out.
+// False when memory is out; there is nothing to close then.
 bool open_epilog_fault(epilog_fault &fault, const position &start);
 
 // Hands over the octets that follow; `is_last` when there are no more. True: the mistake has been found.
 bool look_for_fault(epilog_fault &fault, std::string_view octets, bool is_last);
 
-// The mistake, XML_ERROR_NONE if there is none, and where it is.
+// The mistake, XML_ERROR_NONE if there is none, and where it is; the place is left alone when memory is out.
 XML_Error close_epilog_fault(epilog_fault &fault, position &place);
 
 }  // namespace inv::xml

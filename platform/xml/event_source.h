@@ -90,7 +90,7 @@ struct event_reader {
 };
 
 // Views of an event stay valid until a later call tells the reader to keep what it needs. After the
-// end or a failure every further call yields the same event again.
+// end or a failure every further call yields that event again, without the text in front of it.
 struct event_source {
     void (*next)(void *state, event &out) = nullptr;
     void (*destroy)(void *state) = nullptr;

@@ -3,7 +3,9 @@
 #include "expat_source.h"
 #include "markup_walk.h"
 
+#include <iterator>
 #include <strings.h>
+#include <utility>
 
 namespace inv::xml
 {
@@ -13,8 +15,10 @@ namespace
 
 constexpr size_t queue_octets = size_t{64} * 1024;
 constexpr size_t queue_events = 1024;
-// What one reference may expand to in the queue, which it has to fit into as a whole.
+// What one reference may expand to in the queue, which it has to fit into as a whole; and so do references
+// that follow each other with nothing between.
 constexpr size_t most_of_one_reference = size_t{1} << 20;
+constexpr size_t most_of_references = size_t{8} << 20;
 
 // Values that the document type gives may come to this many octets, or to this many times what has
 // been read of the document; expat bounds entities likewise, but not these.
@@ -37,28 +41,79 @@ void abort_with(expat_source &source, int32_t status, std::string_view reason)
     XML_StopParser(source.parser, XML_FALSE);
 }
 
-// Where an event comes out of an entity, the place in the document is that of the reference.
-bool is_inside_entity(const expat_source &source)
+// `name` is what stands behind the '&'.
+bool is_of_character(std::string_view name)
+{
+    return name.starts_with('#') || name == "amp" || name == "lt" || name == "gt" || name == "quot" ||
+           name == "apos";
+}
+
+// How the document has its characters: of UTF-16, which octet of the two comes first.
+enum class character_form : uint8_t { octets, little, big };
+
+// As expat tells them apart: by the mark, or by the zero octet of a '<'.
+character_form form_of_characters(const expat_source &source)
+{
+    const unsigned first = source.head[0];
+    const unsigned second = source.head[1];
+    if (first == 0 || (first == 0xFE && second == 0xFF))
+        return character_form::big;
+    return second == 0 || (first == 0xFF && second == 0xFE) ? character_form::little : character_form::octets;
+}
+
+// The document's characters from where the present event starts, as many as the longest predefined reference
+// has. What is no ASCII in UTF-16 comes out as a control character.
+std::string_view first_characters(const expat_source &source, char (&characters)[6])
 {
     int offset = 0;
     int size = 0;
     const char *buffer = XML_GetInputContext(source.parser, &offset, &size);
-    if (buffer == nullptr || offset < 0 || size - offset < 2)
-        return false;
-    return buffer[offset] == '&' || (buffer[offset] == '\0' && buffer[offset + 1] == '&');
+    if (buffer == nullptr || offset < 0)
+        return {};
+    const character_form form = form_of_characters(source);
+    const int width = form == character_form::octets ? 1 : 2;
+    const int low = form == character_form::big ? 1 : 0;
+    size_t count = 0;
+    for (; count < std::size(characters) && offset + width <= size; offset += width) {
+        const bool is_octet = width == 1 || buffer[offset + 1 - low] == '\0';
+        characters[count++] = is_octet ? buffer[offset + low] : '\x7F';
+    }
+    return std::string_view(characters, count);
 }
 
-// Never inside an entity: releases of expat that are in use forget the rest of one then.
+// Where an event comes out of an entity, the place in the document is that of the reference.
+bool is_inside_entity(const expat_source &source)
+{
+    char characters[6];
+    const std::string_view first = first_characters(source, characters);
+    return first.starts_with('&') && !is_of_character(first.substr(1, first.find(';') - 1));
+}
+
+size_t fill_of(const expat_source &source)
+{
+    return source.octets.count + source.events.count * sizeof(queued_event) +
+           source.attributes.count * sizeof(queued_attribute);
+}
+
+// Told of each event that has been queued. Never pauses inside an entity: releases of expat that are in use
+// forget the rest of one then.
 void pause_when_full(expat_source &source)
 {
-    if (source.paused || (source.octets.count < queue_octets && source.events.count < queue_events))
-        return;
+    const size_t fill_before = std::exchange(source.fill, fill_of(source));
     if (!is_inside_entity(source)) {
+        source.reference_at = no_reference;
+        if (source.paused || (source.octets.count < queue_octets && source.events.count < queue_events))
+            return;
         source.paused = true;
         XML_StopParser(source.parser, XML_TRUE);
-    } else if (source.octets.count + source.events.count * sizeof(queued_event) > most_of_one_reference) {
-        abort_with(source, XB_E_MALFORMED, "entities expand too far");
+        return;
     }
+    const XML_Index at = XML_GetCurrentByteIndex(source.parser);
+    if (at != source.reference_at)
+        source.fill_in_front = fill_before;
+    source.reference_at = at;
+    if (source.fill - source.fill_in_front > most_of_one_reference || source.fill > most_of_references)
+        abort_with(source, XB_E_MALFORMED, "entities expand too far");
 }
 
 // The document's octets from where the present event starts, empty when they cannot be had. Inside
@@ -89,10 +144,7 @@ std::string_view raw_tag(const expat_source &source)
 bool has_entity_reference(std::string_view markup)
 {
     for (size_t at = markup.find('&'); at != std::string_view::npos; at = markup.find('&', at + 1)) {
-        std::string_view name = markup.substr(at + 1, markup.find(';', at) - at - 1);
-        bool is_known = name.starts_with('#') || name == "amp" || name == "lt" || name == "gt" ||
-                        name == "quot" || name == "apos";
-        if (!is_known)
+        if (!is_of_character(markup.substr(at + 1, markup.find(';', at) - at - 1)))
             return true;
     }
     return false;

@@ -2,7 +2,7 @@
 //
 // Expat pushes; the reader pulls. What expat's handlers report is queued in memory that is used
 // again once the queue has drained. A full queue suspends the parser, so that a long run of small
-// elements in one chunk does not make it grow; only a single tag or run of text may, and an entity
+// elements in one chunk does not make it grow; only a single tag or run of text may, and entities
 // up to a limit. Names are taken as they stand: namespaces are the reader's.
 #include "expat_source.h"
 
@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
 
 namespace inv::xml
@@ -32,6 +33,13 @@ void fit_chunk_to_token(expat_source &source)
     source.token_at = at;
 }
 
+void look_at_head(expat_source &source, const unsigned char *octets, size_t count)
+{
+    for (size_t i = 0; i < count && source.head_length < std::size(source.head); ++i)
+        source.head[source.head_length++] = octets[i];
+    source.byte_order_mark = source.head[0] == 0xEF;
+}
+
 XML_Status feed_chunk(expat_source &source)
 {
     void *buffer = XML_GetBuffer(source.parser, static_cast<int>(source.chunk_size));
@@ -48,10 +56,7 @@ XML_Status feed_chunk(expat_source &source)
         end_with(source, XB_E_FILE_READ, strerror_r(error, source.reason, sizeof source.reason));
         return XML_STATUS_ERROR;
     }
-    if (!source.first_chunk_seen && count > 0) {
-        source.first_chunk_seen = true;
-        source.byte_order_mark = *static_cast<const unsigned char *>(buffer) == 0xEF;
-    }
+    look_at_head(source, static_cast<const unsigned char *>(buffer), static_cast<size_t>(count));
     source.last_chunk_fed = count == 0;
     XML_Status status = XML_ParseBuffer(source.parser, static_cast<int>(count), count == 0);
     fit_chunk_to_token(source);
@@ -83,6 +88,7 @@ void refill(expat_source &source)
         source.events.count = 0;
         source.attributes.count = 0;
         source.octets.count = 0;
+        source.fill = 0;
         parse_further(source);
     }
 }
@@ -197,6 +203,7 @@ bool create_expat_source(event_source &source, input &in, size_t chunk_size, con
         return false;
     }
     made->in = &in;
+    made->reference_at = no_reference;
     made->reader = reader;
     made->least_chunk = made->chunk_size = std::clamp(chunk_size, size_t{1}, greatest_chunk);
     set_handlers(*made);

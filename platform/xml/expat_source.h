@@ -30,14 +30,17 @@ struct queued_event {
     size_t attribute_count;
 };
 
+constexpr XML_Index no_reference = -1;
+
 struct expat_source {
     XML_Parser parser;
     input *in;
     event_reader reader;
     size_t chunk_size;  // asked for at the next reading
     size_t least_chunk;
-    XML_Index token_at;  // where expat stood after the last chunk
-    bool first_chunk_seen;
+    XML_Index token_at;     // where expat stood after the last chunk
+    unsigned char head[2];  // the document's first octets, as far as they have come
+    size_t head_length;
     bool last_chunk_fed;
     bool paused;               // the parser is suspended until the queue has drained
     bool aborted;              // a handler gave up; `ending` says why
@@ -45,6 +48,9 @@ struct expat_source {
     bool foreign_markup;       // the declaration names another encoding than UTF-8
     bool byte_order_mark;      // of UTF-8, which expat counts as a character of line 1
     bool unread_declarations;  // the document relies on declarations that stand outside of it
+    size_t fill;               // of the queue after the last event
+    XML_Index reference_at;    // of the entity reference that the last event came out of, or no_reference
+    size_t fill_in_front;      // of that reference
     uint64_t default_octets;   // of attributes that the document type has given so far
     size_t declarations;
     event ending;

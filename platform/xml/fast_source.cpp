@@ -66,10 +66,10 @@ bool read_start_tag(fast_source &source, event &out)
     out.kind = event_kind::start_tag;
     out.place = {0, 0, offset_of(source.lex.view, tag)};
     source.where = part::content;
-    source.end_is_due = is_empty;
     source.empty_place = out.place;
     ++source.depth;
     put_text(source, tag, out);
+    source.end_is_due = is_empty && source.where != part::over;
     out.is_leaf = false;
     if (!is_empty && source.where != part::over)
         look_at_leaf(source, out);

@@ -75,7 +75,6 @@ bool gather_line_end(fast_source &source)
 
 }  // namespace
 
-// Text of a CDATA section, whose line ends need the same.
 bool gather_character_data(fast_source &source, std::string_view text, const char *after)
 {
     if (!text.empty()) {
@@ -100,7 +99,6 @@ bool gather_character_data(fast_source &source, std::string_view text, const cha
     return true;
 }
 
-// The data of a section that is not well-formed are text up to the mistake.
 void note_character_data_to_fault(fast_source &source)
 {
     const window &view = source.lex.view;

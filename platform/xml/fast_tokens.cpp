@@ -39,7 +39,6 @@ const char *last_piece(const window &view, const char *from)
 
 }  // namespace
 
-// The document ends too early.
 void end_with_end(fast_source &source, XML_Error error)
 {
     const window &view = source.lex.view;
@@ -58,8 +57,6 @@ void end_with_end(fast_source &source, XML_Error error)
     end_with(source, cut != nullptr ? XML_ERROR_PARTIAL_CHAR : error, at);
 }
 
-// Drops what has been read but the text in front of the next tag. False at the end of the document and
-// after a failure, which is the source's ending then.
 bool read_more(fast_source &source)
 {
     window &view = source.lex.view;

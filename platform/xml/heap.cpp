@@ -128,11 +128,6 @@ void release_chunks(heap_chunk *&list)
     }
 }
 
-}  // namespace
-
-namespace
-{
-
 // `alignment` is a power of two, the heap's own at most.
 void *allocate(heap &from, size_t size, size_t alignment)
 {

@@ -19,11 +19,6 @@ bool has_octets(const lexer &lex, const char *at, size_t count)
     return static_cast<size_t>(lex.view.end - at) >= count;
 }
 
-lexed unexpected(lexer &lex, const char *at)
-{
-    return at == lex.view.end ? lexed::need_more : fail_at(lex, at);
-}
-
 struct utf8_form {
     unsigned char lead_mask;  // of the bits that are the character's
     unsigned char length;

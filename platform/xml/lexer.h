@@ -32,6 +32,12 @@ struct lexer {
 
 lexed fail_at(lexer &lex, const char *at, XML_Error error = XML_ERROR_INVALID_TOKEN);
 
+// For an octet that may not stand there: at the data's end none does.
+inline lexed unexpected(lexer &lex, const char *at)
+{
+    return at == lex.view.end ? lexed::need_more : fail_at(lex, at);
+}
+
 // One character that is markup nowhere: an XML character other than ASCII, or white space.
 lexed lex_character(lexer &lex, const char *&at);
 

@@ -10,19 +10,35 @@ namespace inv::xml
 constexpr std::string_view xsi_uri = "http://www.w3.org/2001/XMLSchema-instance";
 constexpr std::string_view xml_uri = "http://www.w3.org/XML/1998/namespace";
 
+// What a link of a tree leads to: 0 to nothing, else twice the index of a binding plus 1, and 1 more where
+// it is the node that the binding has made.
+using scope_link = uint32_t;
+
 struct namespace_binding {
     std::string_view prefix;  // empty: the default namespace
     std::string_view uri;
+    // The node that the binding has made in its tree, if it has made one: below it all keys agree up to
+    // `bit`, and that bit tells which way they go.
+    size_t bit;
+    scope_link ways[2];
+    // Where the binding hangs in the tree, what did so before, and what does since.
+    uint32_t place;
+    scope_link before;
+    scope_link since;
     uint32_t hash;
-    size_t shadowed;  // index plus 1 of the next older binding in the same bucket
 };
 
+// A hash table with at least twice as many buckets as bindings. The few bindings of a bucket form a tree over
+// the bits of their keys, hashes with the prefixes behind them: a document may choose prefixes of one hash,
+// and a search then takes no more steps than the key has bits. A tree has one form for each set of keys, so a
+// binding that is dropped just puts back what hung in its place.
+//
 // Texts are the owner's and outlive their bindings. Bindings that have been dropped stay
 // where they are until others are declared, so that a scope can be entered again.
 struct namespace_scope {
     growing_array<namespace_binding> bindings;
-    size_t default_count = 0;       // of the bindings in scope that are a default namespace's
-    growing_array<size_t> buckets;  // index plus 1 of the newest binding; a power of two of them
+    size_t default_count = 0;           // of the bindings in scope that are a default namespace's
+    growing_array<scope_link> buckets;  // the tops of their trees; a power of two of them
 };
 
 // False when memory is out.

@@ -67,13 +67,15 @@ const char *lent_content(const reader &r)
 // A plain leaf whose start tag is the event ahead.
 bool leaf_is_ahead(const reader &r, plain_leaf &leaf)
 {
+    // Only a start tag that is ahead has a slot for certain.
+    if (!r.ahead || r.leaf != leaf_state::ahead || r.text_significant || r.tags.depth == 0 ||
+        r.failure != XB_OK)
+        return false;
     const element &tag = r.tags.elements[r.tags.depth];
-    bool is_plain = r.ahead && r.leaf == leaf_state::ahead && !r.text_significant && r.tags.depth > 0 &&
-                    r.failure == XB_OK && tag.kind == name_kind::plain &&
-                    tag.attribute_begin == tag.attribute_end && tag.binding_begin == tag.binding_end;
     leaf.name = tag.name;
     leaf.text = r.leaf_text;
-    return is_plain;
+    return tag.kind == name_kind::plain && tag.attribute_begin == tag.attribute_end &&
+           tag.binding_begin == tag.binding_end;
 }
 
 struct element_table {
@@ -174,6 +176,7 @@ int32_t decode_leaf_ahead(xb_context_state &state, const element_table &table, c
     r.leaf = leaf_state::none;
     r.has_text = r.text_significant = r.text_taken = false;
     r.can_push_back = r.group_mode = false;
+    r.selected = no_attribute;
     return index + 1;
 }
 
@@ -204,6 +207,7 @@ int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int
         r.source.take_back(r.source.state, done.at);
         r.place = r.source.place_of(r.source.state, done.last_read);
         r.can_push_back = r.group_mode = false;
+        r.selected = no_attribute;
     }
     return done.reached;
 }
@@ -217,6 +221,7 @@ int32_t rtXmlpSeePlainElement(xb_context *ctx, const xb_element_row *table, int3
     int32_t row = -1;
     if (leaf_is_ahead(r, leaf)) {
         row = find_element(elements, position, leaf.name);
+        r.place = r.ahead_place;
     } else {
         const char *at = lent_content(r);
         if (at == nullptr)
@@ -228,5 +233,6 @@ int32_t rtXmlpSeePlainElement(xb_context *ctx, const xb_element_row *table, int3
         r.place = r.source.place_of(r.source.state, at);
     }
     r.group_mode = false;
+    r.selected = no_attribute;
     return row < 0 ? XB_END_OF_CONTENT : table[row].content_index;
 }

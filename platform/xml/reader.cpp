@@ -1,7 +1,7 @@
 // How reading works.
 //
-// The event source pushes nothing: read_ahead() asks it for events until one that is not text
-// comes, gathers the text on the way, and keeps that event as the one "ahead". Every function
+// The event source pushes nothing: read_ahead() asks it for the next event, a tag or the document's end
+// together with the text in front of it, and keeps that as the one "ahead". Every function
 // below looks at the event ahead and then either takes it with consume_tag() or leaves it for the
 // next call. There is never more than one, and pushing back is nothing but making the tag that was
 // taken last the event ahead again. A lookup that finds what it does not want (the end of the
@@ -16,6 +16,11 @@
 // an element that was closed, whose end tag can therefore be pushed back too. Declarations are in
 // scope while their element is open.
 //
+// A leaf is an element that holds nothing but plain text. Its end comes with its start tag in one event and
+// is kept in the reader; once the start tag has been taken, the end tag becomes the event ahead without
+// the source. The short ways (plain_elements.cpp, plain_attributes.cpp) go further: they read whole leaves
+// from the source's octets, past the event ahead, and leave the reader as if it had read them.
+//
 // Text between the last tag and the event ahead belongs to whoever asks: value decoders take it as
 // the current element's value; lookups and end tags accept white space only, unless a value
 // decoder has taken it.
@@ -28,6 +33,7 @@
 // within a tag are worked out from the tag's text only when an error is recorded.
 #include "reader.h"
 
+#include "armed.h"
 #include "reading.h"
 
 namespace inv::xml
@@ -187,6 +193,8 @@ int32_t rtXmlpCreateReader(xb_context *ctx)
     if (!state.in.open || state.reader.source.state != nullptr)
         return XB_E_BAD_STATE;
     reader_close(state.reader);
+    if (state.armed != nullptr)
+        begin_document(*state.armed);
     end_travel(state.errors);
     reader &r = state.reader;
     r.place = {1, 1, 0};

@@ -27,11 +27,6 @@ struct tag_traits {
 
 constexpr size_t few_attributes = 64;
 
-lexed unexpected(lexer &lex, const char *at)
-{
-    return at == lex.view.end ? lexed::need_more : fail_at(lex, at);
-}
-
 const char *skip_space(const char *at)
 {
     return is_white_space(*at) ? skip_white_space(at) : at;

@@ -12,9 +12,10 @@ namespace
 
 constexpr std::string_view declaration_prefix = "xmlns:";
 
+// A colon at the end is part of the local name (split_qualified_name()).
 bool is_declaration(std::string_view name)
 {
-    return name == "xmlns" || name.starts_with(declaration_prefix);
+    return name == "xmlns" || (name.starts_with(declaration_prefix) && name != declaration_prefix);
 }
 
 bool stack_declaration(tag_stack &tags, const attribute &item)

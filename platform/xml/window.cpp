@@ -131,8 +131,11 @@ refill_result refill(window &view, const char *&keep)
 {
     uint64_t keep_offset = offset_of(view, keep);
     drop(view, keep);
-    if (!grow(view))
+    if (!grow(view)) {
+        memset(view.end, 0, window_padding);
+        keep = view.octets + (keep_offset - view.start.offset);
         return refill_result::no_memory;
+    }
     auto kept = static_cast<size_t>(view.end - view.octets);
     // Twice the token at least: a token that comes in small pieces is then not looked at too often.
     size_t wanted = std::max(kept, size_t{1});

@@ -30,7 +30,8 @@ bool open_window(window &view, input &in, size_t chunk_size);
 void close_window(window &view);
 
 // Drops everything in front of `keep` and reads more behind the rest: at least as much as is kept,
-// unless the document ends. `keep` goes where its octet goes. Whatever else pointed in is invalid.
+// unless the document ends. `keep` goes where its octet goes, also when memory is out. Whatever else
+// pointed in is invalid.
 refill_result refill(window &view, const char *&keep);
 
 inline uint64_t offset_of(const window &view, const char *at)

@@ -1,6 +1,7 @@
 // Documents made to cost much are refused or answered at the cost of a plain document of their size. The
 // bounds stand in docs/hostile-documents.md.
 #include "hostile/document_cost.h"
+#include "hostile/hostile_names.h"
 #include "hostile/hostile_texts.h"
 #include "hostile/nothing_left.h"
 #include "inv_platform/xml_runtime.h"
@@ -129,7 +130,7 @@ const hostile_case cases[] = {
          return with_text(repeated("&a;", million / 4),
                           "<!DOCTYPE module [<!ENTITY a '" + repeated("x", million) + "'>]>");
      },
-     refused, 8, 4},
+     refused, 12, 8},
     {"quadratic_expansion_in_attributes",
      [] {
          return module_text("<!DOCTYPE module [<!ENTITY a '" + repeated("x", million) + "'>]>",
@@ -206,6 +207,20 @@ const hostile_case cases[] = {
      },
      20001, 4, 4, same_size, every_i2c_way,
      of_ways({all_instances, 1, all_instances - 1}, {20001, 1, 0}, {20001, 0, 20000})},
+    {"namespaces_with_prefixes_of_one_hash", [] { return module_text("", prefixes_of_one_hash(14), ""); },
+     refused, 10, 6},
+    {"entities_of_400_kb_one_behind_the_other",
+     [] {
+         return with_text(repeated("&a;", million / 4),
+                          "<!DOCTYPE module [<!ENTITY a '" + repeated("x", 400000) + "'>]>");
+     },
+     refused, 12, 8},
+    {"entities_of_many_small_attributes_one_behind_the_other",
+     [] {
+         return module_text("<!DOCTYPE module [<!ENTITY a '<led " + numbered(" a%=\"\"", 40) + "/>'>]>", "",
+                            repeated("&a;", million));
+     },
+     refused, 4, 4},
 };
 
 void PrintTo(const hostile_case &each, std::ostream *out)

@@ -3,6 +3,7 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -186,6 +187,68 @@ TEST(TraceChannel, live_lines_go_to_standard_error_at_once_with_time_thread_and_
     std::regex expected(prefix + R"(42: a\.\[31mb\.c 7\n)" + prefix + R"(43: no newline\n)");
     EXPECT_TRUE(std::regex_match(text, expected)) << text;
     EXPECT_EQ(read_lines(channel)[1].text, "a\x1b[31mb\nc 7\n") << "readers get the text as it is";
+}
+
+// What the process traces live.
+std::string live_text(void *channel, const char *text)
+{
+    qtrace_configuration config = configuration(1, nullptr);
+    testing::internal::CaptureStderr();
+    qtrace_enable_configuration(channel, &config);
+    qtrace_internal(channel, 1, 4, 1, "s", "%s\n", text);
+    qtrace_enable_configuration(channel, nullptr);
+    const std::string line = testing::internal::GetCapturedStderr();
+    const size_t start = line.find("] 1: ");
+    return start == std::string::npos ? line : line.substr(start + 5);
+}
+
+TEST(TraceChannel, control_characters_of_any_length_are_dots_for_people)
+{
+    struct {
+        const char *text, *printed;
+    } cases[] = {
+        {"a\xC2\x80"
+         "b\xC2\x9F"
+         "c",
+         "a.b.c"},
+        {"\xC2\xA0 \xC3\x9B \xC4\x9B \xE2\x80\x9C \xF0\x9F\x98\x80",
+         "\xC2\xA0 \xC3\x9B \xC4\x9B \xE2\x80\x9C \xF0\x9F\x98\x80"},
+        {"\x9B[31m", ".[31m"},
+        {"\xC3\xBC\x9B[31m", "\xC3\xBC.[31m"},
+        {"\xE2\x9B[31m", "\xE2.[31m"},
+        {"\xC0\x9B[31m", "\xC0.[31m"},
+        {"\xC2\x1B[31m", "\xC2.[31m"},
+        {"\xE0\x82\x9B[31m", "\xE0..[31m"},
+        {"\xF0\x80\x82\x9B[31m", "\xF0...[31m"},
+        {"\xED\xA0\x9B[31m", "\xED\xA0.[31m"},
+        {"\xF4\x9B\x9B\x9B", "\xF4..."},
+        {"\xF8\x9B\x9B\x9B\x9B", "\xF8...."},
+        {"cut \xC2", "cut \xC2"},
+        {"cut \xE2\x82", "cut \xE2."},
+    };
+    void *channel = open_channel();
+    for (const auto &c : cases)
+        EXPECT_EQ(live_text(channel, c.text), std::string(c.printed) + "\n");
+}
+
+// In a process of its own; 0 when its line has its own thread's id.
+void trace_with_own_thread_and_exit(void *channel)
+{
+    int ends[2];
+    const bool is_ready = pipe(ends) == 0 && dup2(ends[1], STDERR_FILENO) == STDERR_FILENO;
+    qtrace_configuration config = configuration(1, nullptr);
+    qtrace_enable_configuration(channel, &config);
+    qtrace_internal(channel, 2, 4, 0, "", "\n");
+    char line[200] = {};
+    const bool is_read = is_ready && read(ends[0], line, sizeof line - 1) > 0;
+    exit(is_read && strstr(line, ("[" + std::to_string(gettid()) + "] 2: ").c_str()) != nullptr ? 0 : 1);
+}
+
+TEST(TraceChannel, the_child_of_a_fork_traces_with_a_thread_id_of_its_own)
+{
+    void *channel = open_channel();
+    qtrace_internal(channel, 1, 4, 0, "", "\n");
+    EXPECT_EXIT(trace_with_own_thread_and_exit(channel), testing::ExitedWithCode(0), "");
 }
 
 TEST(TraceChannel, a_full_ring_drops_its_oldest_lines_whole)

@@ -107,6 +107,21 @@ TEST(XmlArmed, a_record_is_no_parent_of_what_stands_in_its_sibling)
     EXPECT_EQ(d.parent(&inner), nullptr);
 }
 
+TEST(XmlArmed, a_record_of_one_document_is_no_parent_in_the_next)
+{
+    armed_document d("<a><b/></a>", {"a"});
+    int record = 0, item = 0;
+    rtxNoteItem(&d.ctx, &record, true);
+    rtxStreamClose(&d.ctx);
+    ASSERT_EQ(rtxStreamMemoryCreateReader(&d.ctx, d.text.data(), d.text.size()), XB_OK);
+    ASSERT_EQ(rtXmlpCreateReader(&d.ctx), XB_OK);
+    ASSERT_EQ(rtXmlpMatchStartTag(&d.ctx, "a", -1), XB_OK);
+    ASSERT_EQ(rtXmlpMatchStartTag(&d.ctx, "b", -1), XB_OK);
+    rtxNoteItem(&d.ctx, &item, false);
+    EXPECT_EQ(d.place(&item), "1:4+3");
+    EXPECT_EQ(d.parent(&item), nullptr);
+}
+
 TEST(XmlArmed, many_items_keep_their_places_and_a_later_note_replaces)
 {
     constexpr size_t count = 20000;

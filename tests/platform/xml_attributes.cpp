@@ -121,6 +121,19 @@ TEST(XmlAttributes, declarations_are_listed_in_document_order)
     EXPECT_EQ(found, (std::vector<std::string>{"a=one", "=", "c=three"}));
 }
 
+TEST(XmlAttributes, a_declaration_without_a_prefix_behind_its_colon_is_none)
+{
+    for (bool slow_road : {false, true}) {
+        xml_document document("<r xmlns:='u'><a>1</a></r>", 0, slow_road);
+        ASSERT_EQ(enter(document, "r"), XB_OK);
+        EXPECT_EQ(rtXmlpGetAttributeCount(&document.ctx), 1);
+        int32_t namespace_index = 0;
+        EXPECT_EQ(look_up(document, 0, &namespace_index), XB_E_ATTRIBUTE_UNKNOWN);
+        EXPECT_EQ(namespace_index, -1);
+        EXPECT_EQ(next_of(document, element_table({"a"})), 0);
+    }
+}
+
 TEST(XmlAttributes, of_the_parent_are_there_again_when_the_child_is_closed)
 {
     xml_document document("<r a='1' " + std::string(xsi) + "><b c='2' d='3' xmlns:xsi='u'/></r>", {"r", "b"});

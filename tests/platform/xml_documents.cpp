@@ -253,6 +253,82 @@ TEST(XmlDocuments, a_byte_order_mark_alone_is_no_document)
     EXPECT_EQ(read_whole("\xEF\xBB\xBF<r>x</r>").content, "x");
 }
 
+std::string repeated(std::string_view piece, size_t times)
+{
+    std::string text;
+    for (size_t i = 0; i < times; ++i)
+        text += piece;
+    return text;
+}
+
+// Of one entity that expands to so many octets.
+std::string with_references(size_t octets, const std::string &content)
+{
+    return "<!DOCTYPE r [<!ENTITY e '" + std::string(octets, 'x') + "'>]><r>" + content + "</r>";
+}
+
+TEST(XmlDocuments, an_entity_may_expand_to_a_megabyte_wherever_it_is_referred_to)
+{
+    constexpr size_t least_refused = size_t{1} << 20;
+    for (const char *content : {"&e;&e;&e;", "&e; &e; &e;", "&e;&amp;&e;&#65;&e;"})
+        EXPECT_GE(read_whole(with_references(400000, content)).content.size(), 1200000U) << content;
+    EXPECT_EQ(read_whole(with_references(1000000, "&e;&e;")).content.size(), 2000000U);
+    EXPECT_EQ(read_whole(with_references(least_refused, "&e;")).status, XB_E_MALFORMED);
+    EXPECT_EQ(read_whole(with_references(1, "&e;") + "<!-- -->").content, "x");
+}
+
+TEST(XmlDocuments, references_with_nothing_between_expand_to_eight_megabytes_at_most)
+{
+    EXPECT_EQ(read_whole(with_references(400000, repeated("&e;", 20))).content.size(), 8000000U);
+    EXPECT_EQ(read_whole(with_references(400000, repeated("&e;", 22))).status, XB_E_MALFORMED);
+    EXPECT_EQ(read_whole(with_references(400000, repeated("&e; ", 22))).content.size(), 8800022U);
+}
+
+TEST(XmlDocuments, references_to_characters_are_no_entities_however_many_there_are)
+{
+    constexpr size_t as_one_piece = size_t{32} << 20;
+    for (const char *reference : {"&amp;", "&quot;", "&#x41;"}) {
+        const std::string text = "<!DOCTYPE r><r>" + repeated(reference, 1200000) + "</r>";
+        const outcome expected = read_whole(text, 4096);
+        EXPECT_EQ(expected.status, XB_OK);
+        EXPECT_TRUE(read_whole(text, as_one_piece) == expected) << reference;
+        EXPECT_TRUE(read_whole(utf16(text, false, true), as_one_piece) == expected) << reference;
+        EXPECT_TRUE(read_whole(utf16(text, true, true), as_one_piece) == expected) << reference;
+    }
+}
+
+// In UTF-16, as letters whose low octets spell the name of a predefined entity.
+TEST(XmlDocuments, an_entity_is_not_taken_for_a_predefined_one)
+{
+    const std::string name = "\xE1\xED\xF0";
+    const std::string text = "<!DOCTYPE r [<!ENTITY f '<b/>'><!ENTITY " + name + " '" +
+                             repeated("<a>&f;x</a>", 500) + "'>]><r>&" + name + ";</r>";
+    for (bool big_endian : {false, true}) {
+        std::string encoded = utf16(text, big_endian, true);
+        for (size_t i = 2; i < encoded.size(); i += 2) {
+            char &high = encoded[big_endian ? i : i + 1];
+            char &low = encoded[big_endian ? i + 1 : i];
+            if (name.find(low) != std::string::npos) {
+                high = '\x01';
+                low = static_cast<char>(low & 0x7F);
+            }
+        }
+        EXPECT_EQ(read_whole(encoded).content, repeated("<a><b></b>x</a>", 500));
+    }
+}
+
+// Of UTF-16, as characters that have an octet of the number of '&'.
+TEST(XmlDocuments, text_is_not_taken_for_references)
+{
+    for (std::string_view unit : {"\x26\x01", "\x26\x61", "\x01\x26", "\x21\x26"}) {
+        for (bool big_endian : {false, true}) {
+            const std::string text =
+                utf16("<r>", big_endian, true) + repeated(unit, 3200000) + utf16("</r>", big_endian, false);
+            EXPECT_EQ(read_whole(text, size_t{32} << 20).status, XB_OK) << unit << " " << big_endian;
+        }
+    }
+}
+
 std::string bomb(const std::string &seed, const std::string &use)
 {
     std::string text = "<!DOCTYPE r [<!ENTITY e0 '" + seed + "'>";

@@ -2,7 +2,10 @@
 #include "support/counting_memory.h"
 #include "xml/context.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
+
+using namespace inv::xml;
 
 namespace
 {
@@ -66,9 +69,20 @@ const small_document small_documents[] = {
     {document_with("", "&amp;", "x y"), 16, XB_E_MALFORMED},
     {growing_document("<!DOCTYPE r>"), 1 << 20, XB_OK, growing_items},
     {growing_document(""), 1 << 20, XB_OK, growing_items},
+    {document_with("", "&amp;", "\njunk"), 4096, XB_E_MALFORMED},
 };
 
 const xb_type_name_row types[] = {{"T", 1}};
+
+// The furthest place that has been read.
+uint64_t furthest;
+
+int32_t noted(xb_context *ctx, int32_t status)
+{
+    if (status >= 0)
+        furthest = std::max(furthest, ctx->state->reader.place.offset);
+    return status;
+}
 
 int32_t walk_attributes(xb_context *ctx, xb_data_list *declarations)
 {
@@ -109,13 +123,13 @@ int32_t walk_elements(xb_context *ctx, xb_data_list *list)
 {
     const element_table table({"v", "s", "h", "any"});
     for (;;) {
-        int32_t index = rtXmlpGetNextSeqElemID(ctx, table.rows.data(), table.row_count(),
-                                               table.sequence.data(), 0, -1, false);
+        int32_t index = noted(ctx, rtXmlpGetNextSeqElemID(ctx, table.rows.data(), table.row_count(),
+                                                          table.sequence.data(), 0, -1, false));
         if (index == XB_END_OF_CONTENT)
             return rtXmlpMatchEndTag(ctx, -1);
-        int32_t status = index < 0 ? index : decode_item(ctx, index);
+        int32_t status = index < 0 ? index : noted(ctx, decode_item(ctx, index));
         if (status == XB_OK)
-            status = rtXmlpMatchEndTag(ctx, -1);
+            status = noted(ctx, rtXmlpMatchEndTag(ctx, -1));
         if (status == XB_OK && rtxDListAppend(ctx, list, ctx) == nullptr)
             status = XB_E_NO_MEMORY;
         if (status != XB_OK)
@@ -131,7 +145,7 @@ int32_t walk_document(xb_context *ctx, const small_document &document)
     rtxStreamMemoryCreateReader(ctx, document.text.data(), document.text.size());
     int32_t status = rtXmlpCreateReader(ctx);
     if (status == XB_OK)
-        status = rtXmlpMatchStartTag(ctx, "r", -1);
+        status = noted(ctx, rtXmlpMatchStartTag(ctx, "r", -1));
     if (status == XB_OK)
         status = walk_attributes(ctx, &declarations);
     if (status == XB_OK)
@@ -143,47 +157,78 @@ int32_t walk_document(xb_context *ctx, const small_document &document)
     return XB_OK;
 }
 
-// Walks the document with the n-th request failing; returns whether one failed.
-bool walk_with_failure(const small_document &document, uint64_t n, bool all_after)
+position place_in(std::string_view text, uint64_t offset)
+{
+    position place = {1, 1, offset};
+    for (char c : text.substr(0, offset)) {
+        place.column = c == '\n' ? 1 : place.column + 1;
+        place.line += c == '\n';
+    }
+    return place;
+}
+
+std::string readable(const position &place)
+{
+    return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" +
+           std::to_string(place.offset);
+}
+
+struct outcome {
+    int32_t status;
+    position place;
+    bool failed;  // a request did
+};
+
+// Walks the document with the n-th request failing; 0: none.
+outcome walk_with_failure(const small_document &document, uint64_t n, bool all_after)
 {
     uint64_t live = counting_memory::live();
     counting_memory::fail_at(n, all_after);
     xb_context ctx = {};
-    int32_t status = rtXmlInitContext(&ctx);
-    if (status == XB_OK)
-        status = walk_document(&ctx, document);
-    bool failed = counting_memory::failed();
+    furthest = 0;
+    outcome found = {rtXmlInitContext(&ctx), {1, 1, 0}, false};
+    if (found.status == XB_OK) {
+        found.status = walk_document(&ctx, document);
+        found.place = error_place(*ctx.state, found.status);
+    }
+    found.failed = counting_memory::failed();
     counting_memory::reset();
-    EXPECT_TRUE(status == XB_E_NO_MEMORY || status == document.status) << "request " << n << ": " << status;
-    if (!failed) {
-        EXPECT_EQ(status, document.status);
-    }
-    if (failed && all_after) {
-        EXPECT_EQ(status, XB_E_NO_MEMORY) << "request " << n;
-    }
     rtxFreeContext(&ctx);
     EXPECT_EQ(counting_memory::live(), live) << "request " << n;
-    return failed;
+    return found;
+}
+
+// Walks the document with each request failing in turn; each walk that ends for want of memory says a place
+// of the document that is not in front of what has been read.
+void walk_with_each_failure(const small_document &document, bool all_after)
+{
+    const outcome whole = walk_with_failure(document, 0, false);
+    ASSERT_EQ(whole.status, document.status);
+    outcome found = {XB_OK, {}, true};
+    uint64_t n = 1;
+    for (; found.failed; ++n) {
+        SCOPED_TRACE("request " + std::to_string(n) + " of " + document.text.substr(0, 60));
+        found = walk_with_failure(document, n, all_after);
+        const bool is_whole = found.status == whole.status && !(found.failed && all_after);
+        EXPECT_TRUE(is_whole || found.status == XB_E_NO_MEMORY) << found.status;
+        EXPECT_EQ(readable(found.place),
+                  readable(is_whole ? whole.place : place_in(document.text, found.place.offset)));
+        EXPECT_GE(found.place.offset, furthest);
+        EXPECT_LE(found.place.offset, document.text.size());
+    }
+    EXPECT_GT(n, 10U);
 }
 
 TEST(XmlMemoryFailures, every_single_failing_request_is_survived_without_a_leak)
 {
-    for (const small_document &document : small_documents) {
-        uint64_t n = 1;
-        while (walk_with_failure(document, n, false))
-            ++n;
-        EXPECT_GT(n, 10U);
-    }
+    for (const small_document &document : small_documents)
+        walk_with_each_failure(document, false);
 }
 
 TEST(XmlMemoryFailures, memory_that_stays_out_ends_the_walk_with_no_memory)
 {
-    for (const small_document &document : small_documents) {
-        uint64_t n = 1;
-        while (walk_with_failure(document, n, true))
-            ++n;
-        EXPECT_GT(n, 10U);
-    }
+    for (const small_document &document : small_documents)
+        walk_with_each_failure(document, true);
 }
 
 }  // namespace

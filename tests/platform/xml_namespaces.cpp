@@ -1,10 +1,13 @@
 #include "xml/namespaces.h"
 #include "xml/text_stack.h"
 
+#include "support/document_generator.h"
+
 #include <gtest/gtest.h>
 #include <string>
 
 using namespace inv::xml;
+using namespace inv_testing;
 
 namespace
 {
@@ -66,14 +69,64 @@ TEST(XmlNamespaces, a_scope_that_was_left_can_be_entered_again)
     EXPECT_EQ(s.find("p"), "-");
 }
 
-TEST(XmlNamespaces, buckets_grow_with_the_declarations)
+TEST(XmlNamespaces, each_of_many_declarations_is_found)
 {
     scope_under_test s;
     for (int i = 0; i < 10000; ++i)
         s.declare("n" + std::to_string(i), "u" + std::to_string(i));
     for (int i = 0; i < 10000; ++i)
         ASSERT_EQ(s.find("n" + std::to_string(i)), "u" + std::to_string(i));
+    EXPECT_EQ(s.find("n"), "-");
+    EXPECT_EQ(s.find("n10000"), "-");
+    EXPECT_EQ(s.find("n99999"), "-");
     EXPECT_GE(s.scope.buckets.count, s.scope.bindings.count);
+}
+
+// From the newest declaration on.
+std::string find_slowly(const namespace_scope &scope, std::string_view prefix)
+{
+    for (size_t i = scope.bindings.count; i > 0; --i) {
+        const namespace_binding &binding = scope.bindings.items[i - 1];
+        if (binding.prefix == prefix)
+            return binding.uri.empty() ? "-" : std::string(binding.uri);
+    }
+    return "-";
+}
+
+// Few letters and lengths, so that prefixes begin with one another and are declared again; octets beyond
+// ASCII, too.
+std::string random_prefix(random_source &random)
+{
+    static constexpr std::string_view letters[] = {"a", "b", "c", "\xC3\xBC", "\xC3\xBD"};
+    std::string prefix;
+    for (size_t length = draw_below(random, 5); length > 0; --length)
+        prefix += letters[draw_below(random, std::size(letters))];
+    return prefix;
+}
+
+TEST(XmlNamespaces, a_scope_finds_what_a_search_from_the_newest_declaration_on_finds)
+{
+    random_source random{1};
+    for (int round = 0; round < 200 && !HasFailure(); ++round) {
+        scope_under_test s;
+        size_t declared = 0;
+        for (int step = 0; step < 200 && !HasFailure(); ++step) {
+            const size_t kind = draw_below(random, 4);
+            if (kind == 0) {
+                scope_leave(s.scope, draw_below(random, s.scope.bindings.count + 1));
+            } else if (kind == 1) {
+                const size_t count = s.scope.bindings.count;
+                scope_enter_again(s.scope, count + draw_below(random, declared - count + 1));
+            } else {
+                s.declare(random_prefix(random), one_in(random, 10) ? "" : "u" + std::to_string(step));
+                declared = s.scope.bindings.count;
+            }
+            for (int i = 0; i < 5; ++i) {
+                const std::string prefix = random_prefix(random);
+                ASSERT_EQ(s.find(prefix), find_slowly(s.scope, prefix)) << prefix;
+            }
+        }
+    }
 }
 
 TEST(XmlNamespaces, names_are_split_at_an_inner_colon)

@@ -184,4 +184,24 @@ TEST(XmlWindow, that_cannot_grow_keeps_what_it_has)
     EXPECT_TRUE(r.content().starts_with(before));
 }
 
+TEST(XmlWindow, that_cannot_grow_leaves_what_is_kept_where_it_is_to_be_found)
+{
+    const std::string text = std::string(1000, 'x') + std::string(20000, 'y');
+    reading r(text, 4096);
+    const char *keep = r.view.octets;
+    refill_result result = refill(r.view, keep);
+    keep += 1000;
+    counting_memory::fail_at(1, true);
+    while (result == refill_result::more && !r.view.at_end) {
+        result = refill(r.view, keep);
+        ASSERT_EQ(offset_of(r.view, keep), 1000U);
+        EXPECT_EQ(*keep, 'y');
+        for (size_t i = 0; i < window_padding; ++i)
+            ASSERT_EQ(r.view.end[i], '\0') << i;
+    }
+    counting_memory::fail_at(0);
+    EXPECT_EQ(result, refill_result::no_memory);
+    EXPECT_EQ(r.view.start.offset, 1000U);
+}
+
 }  // namespace

@@ -1,7 +1,9 @@
 /* AVL tree: what the xml-instance indexes import.
  *
  * Intrusive: a node is the caller's storage and begins with AVL_NODE_HEADER_SIZE octets of links
- * that belong to the tree while the node is in it. Not locked; the owner serialises.
+ * that belong to the tree while the node is in it. A node is aligned as a pointer is: low bits of its
+ * links serve the tree. What compare looks at must not change while the node is in the tree. Not locked;
+ * the owner serialises.
  */
 #ifndef INV_PLATFORM_AVL_H
 #define INV_PLATFORM_AVL_H
@@ -23,7 +25,8 @@ void *avl_insert(avl_root *root, void *node, avl_compare compare, uint32_t flag)
 /* The node equal to key_node (compare gets key_node first), or null. */
 void *avl_search(avl_root *root, const void *key_node, avl_compare compare);
 
-/* Takes the node equal to `node` out and returns it; null when there is none. With the last node
+/* Takes the node equal to `node` out and returns it; null when there is none. `node` may be any storage
+ * with that key: what is returned and no longer in the tree is the node that was inserted. With the last node
  * the header is given back and *root is null. flag is reserved; pass 0. */
 void *avl_delete(avl_root *root, void *node, avl_compare compare, uint32_t flag);
 

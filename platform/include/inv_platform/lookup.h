@@ -10,8 +10,9 @@
  * for one) and has at most 255 octets. Versions are a single major.minor or an inclusive range and
  * are ignored by the first-generation call. File names are relative to the catalogue's folder and
  * may hold blanks. "#" begins a comment line. The first fitting line wins. A broken line is reported
- * on standard error with file and line, once per reading, and passed over. Every lookup reads the
- * catalogue anew, so that edits count at once.
+ * on standard error with file and line, once per reading, and passed over; so is a fitting line whose
+ * file's path would be longer than PATH_MAX, and the next fitting one wins. Every lookup reads the
+ * catalogue anew, so that edits count at once. A catalogue of more than 16 MiB is not read.
  */
 #ifndef INV_PLATFORM_LOOKUP_H
 #define INV_PLATFORM_LOOKUP_H

@@ -14,8 +14,8 @@ namespace inv::memory
 // Zero-filled memory from the process heap, or null. Free with release().
 void *request(size_t size);
 
-// Grows or shrinks a block of request(); null (block untouched) when memory is out. Octets gained
-// are not cleared.
+// Grows or shrinks a block of request(), or asks for one when block is null; null (block untouched) when
+// memory is out. Octets gained are not cleared. size must not be 0.
 void *resize(void *block, size_t size);
 
 // Gives a block of request() or resize() back; also anything a client got from calloc().
@@ -40,7 +40,8 @@ void *map(size_t size);
 
 void unmap(void *pages, size_t size);
 
-// Gives the memory of mapped pages back and leaves them mapped: they are zero when they are touched again.
+// Gives the memory of pages of map() back and leaves them mapped: they are zero when they are touched again.
+// Both pages and size are multiples of small_page; pages may begin anywhere within what was mapped.
 void discard(void *pages, size_t size);
 
 }  // namespace inv::memory

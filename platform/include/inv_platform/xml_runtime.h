@@ -212,8 +212,9 @@ void rtxStreamClose(xb_context *ctx);
  * returns it. After any other failure the reader stands where it stood.
  *
  * External entities are never loaded and end the reading with XB_E_MALFORMED, as do references
- * whose text is not known, entities or default values that expand far beyond the document's size, and
- * a reference that one megabyte cannot hold the expansion of.
+ * whose text is not known, entities or default values that expand far beyond the document's size, a
+ * reference to an entity that one megabyte cannot hold the expansion of, and such references with nothing
+ * but references between them that eight cannot.
  * A document type that stands outside of the document is passed over; attribute values may then
  * refer to characters and the predefined entities only. One within may declare 1000 entities and
  * attributes at most. */
@@ -253,7 +254,7 @@ int32_t rtXmlpGetNextElemID(xb_context *ctx, const xb_element_row *rows, int32_t
 void rtXmlpMarkLastEventActive(xb_context *ctx);
 
 /* True when the current element has neither elements nor text other than white space. Also true
- * when reading fails: the next read says so. */
+ * when reading fails: the next read says so. Counts as no read: a selected attribute stays selected. */
 bool rtXmlpIsEmptyElement(xb_context *ctx);
 
 /* Group mode: the next decoder reads only its own rows from the element that is already open and
@@ -353,14 +354,14 @@ int32_t rtXmlpDecPlainElements(xb_context *ctx, const xb_element_row *table, int
 
 /* What comes next in the current element, without reading it: the content index of an element that is
  * plain as above, whatever its text, and may stand at the position; XB_END_OF_CONTENT for a plain
- * element that may not; XB_E_BAD_STATE when something else comes or the reader cannot tell. Never
- * records anything. */
+ * element that may not; XB_E_BAD_STATE when something else comes or the reader cannot tell. Any other answer
+ * ends the selection of an attribute. Never records anything. */
 int32_t rtXmlpSeePlainElement(xb_context *ctx, const xb_element_row *table, int32_t row_count,
                               const xb_sequence_row *sequence, int32_t position);
 
 /* rtXmlpDecPlainElements() for the current tag's attributes from `index` on (document order). Returns the
  * index of the first attribute that was not decoded, the number of attributes when all were. Bit n of *seen
- * is set for attribute n of the table. */
+ * is set for attribute n of the table, which has 64 rows at most. */
 int32_t rtXmlpDecPlainAttributes(xb_context *ctx, const xb_attribute_row *table, int32_t row_count,
                                  const xb_plain_row *plain, int32_t index, void *record, uint64_t *seen);
 
