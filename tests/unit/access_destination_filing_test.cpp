@@ -442,6 +442,13 @@ TEST_F(FiledSlots, are_found_as_a_search_finds_them_in_a_list_that_was_freed_and
     expect_literal_answers(handle.pcie_cc_slot_lists);
 }
 
+TEST_F(FiledSlots, are_searched_where_no_table_was_kept)
+{
+    inv::set_side_table(&handle, inv::side_table::slots, nullptr, nullptr);
+    expect_literal_answers(handle.i2c_cc_slot_lists);
+    expect_literal_answers(handle.pcie_cc_slot_lists);
+}
+
 TEST_F(FiledSlots, of_a_later_load_have_no_table_where_elements_stood_before)
 {
     {

@@ -147,6 +147,7 @@ TEST(DecodeContent, a_light_without_states_fails_with_its_count)
         EXPECT_EQ(d.status, XB_E_CONSTRAINT) << content;
         EXPECT_EQ(d.parameters(), (texts{"BaseLEDType_2.ledInfo.count", "0"})) << content;
         EXPECT_TRUE(d.error().fatal);
+        EXPECT_EQ(d.errors(), 1u) << "nothing is decoded further";
     }
 }
 

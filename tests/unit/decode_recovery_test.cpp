@@ -123,6 +123,10 @@ const recovery_case recovery_cases[] = {
      entity("storageSPI", "<channel>1</channel><blockSizeKB>01</blockSizeKB>"),
      {XB_E_ELEMENT_MISSING},
      {"<channel"}},
+    {"the first element of an inherited part missing whose others are there",
+     entity("storageSPI", "<speed>1</speed><channel>1</channel><blockSizeKB>01</blockSizeKB>"),
+     {XB_E_ELEMENT_MISSING},
+     {"<speed"}},
     {"the first element of a part missing",
      entity("storageSPI", "<maxCapacity>01</maxCapacity><blockSizeKB>01</blockSizeKB>"),
      {XB_E_ELEMENT_MISSING},
@@ -209,6 +213,14 @@ TEST(DecodeRecovery, what_stands_behind_a_failure_is_decoded)
     ASSERT_EQ(top.ext.led.count, 2u);
     EXPECT_EQ(node<BaseLEDType>(top.ext.led, 0).ext.ledInfo.count, 2u);
     EXPECT_EQ(node<BaseLEDType>(top.ext.led, 1).ext.ledInfo.count, 1u);
+}
+
+TEST(DecodeRecovery, an_element_out_of_order_is_decoded_from_there_on)
+{
+    decoded d(module("<driverId>5</driverId><pdNotes>a</pdNotes><openQuestion>b</openQuestion>" + fan));
+    EXPECT_EQ(d.statuses(), std::vector<int32_t>{XB_E_ELEMENT_UNEXPECTED});
+    EXPECT_EQ(d.top().base.pdNotes.count, 1u);
+    EXPECT_EQ(d.top().base.openQuestion.count, 1u);
 }
 
 TEST(DecodeRecovery, what_was_decoded_before_a_final_failure_is_there)

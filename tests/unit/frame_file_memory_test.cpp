@@ -281,6 +281,20 @@ TEST_F(FileMemory, a_quarter_of_the_next_chunk_is_no_request_of_its_own)
     handle_forget(handle);
 }
 
+TEST_F(FileMemory, a_request_of_all_that_is_left_of_a_chunk_is_met_there)
+{
+    inv_xml_handle *handle = new_handle();
+    begin_load(handle);
+    for (int i = 0; i < 3; ++i)
+        record_request(16 * kibi);
+    const frame::file_memory &of_file = frame::find_side_record(handle)->memory;
+    EXPECT_NE(record_request(static_cast<size_t>(of_file.free_end - of_file.free_begin)), nullptr);
+    EXPECT_EQ(counting_memory::mapped_octets(), mapped_before + 64 * kibi);
+    EXPECT_EQ(of_file.free_begin, of_file.free_end);
+    end_load(false);
+    handle_forget(handle);
+}
+
 TEST_F(FileMemory, requests_up_to_64_octets_lie_together)
 {
     inv_xml_handle *handle = new_handle();

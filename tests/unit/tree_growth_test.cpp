@@ -200,6 +200,23 @@ TEST_F(Growth, a_tree_of_other_origin_is_grown_by_the_plain_search)
     EXPECT_EQ(last, whole->first_child->first_child->next_sibling->record);
 }
 
+TEST_F(Growth, where_a_table_as_large_as_expected_cannot_be_had_a_small_one_grows)
+{
+    inv::tree_growth_scope scope(100000);
+    counting_memory::fail_at(2);
+    sch_base_entity_type *top = records.record({3, 0, 0});
+    parser_update_eid_chain(top, nullptr);
+    EXPECT_TRUE(counting_memory::failed());
+    EXPECT_EQ(counting_memory::requests(), 3u) << "the node, the large table, the small one";
+    constexpr uint16_t children = 1000;
+    for (uint16_t i = 0; i < children; ++i)
+        parser_update_eid_chain(records.record({9, 0, i}), top);
+    uint16_t next = 0;
+    for (const eid_chain_node *child = root_eid->first_child; child != nullptr; child = child->next_sibling)
+        ASSERT_EQ(child->record->instance, next++);
+    EXPECT_EQ(next, children);
+}
+
 // Grows random trees and compares each with the model: nearly always below the newest entity or one of
 // its ancestors, now and then anywhere, below strangers, with records that are in the tree already.
 void grow_random_tree(sample &records, std::mt19937 &random, int size, bool with_failures)
