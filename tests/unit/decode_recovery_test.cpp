@@ -223,6 +223,19 @@ TEST(DecodeRecovery, an_element_out_of_order_is_decoded_from_there_on)
     EXPECT_EQ(d.top().base.openQuestion.count, 1u);
 }
 
+TEST(DecodeRecovery, of_a_list_of_codes_those_that_are_none_stay_out)
+{
+    decoded d(
+        module(entity("pcieSwitch", "<configGen>ORVL_PCI_GEN_GEN4</configGen><configGen>GEN9</configGen>"
+                                    "<configGen>ORVL_PCI_GEN_DMI2</configGen>")));
+    EXPECT_EQ(d.statuses(), std::vector<int32_t>{XB_E_UNKNOWN_TOKEN});
+    ASSERT_EQ(d.top().ext.pcieSwitch.count, 1u);
+    const auto &codes = node<BasePCIeSwitchType>(d.top().ext.pcieSwitch, 0).ext.configGen;
+    ASSERT_EQ(codes.count, 2u);
+    EXPECT_EQ(node<uint32_t>(codes, 0), 6u);
+    EXPECT_EQ(node<uint32_t>(codes, 1), 1u);
+}
+
 TEST(DecodeRecovery, what_was_decoded_before_a_final_failure_is_there)
 {
     decoded d(module("<pdNotes>a</pdNotes>" + entity("led", led_info + "<x>")));
