@@ -154,6 +154,10 @@ const recovery_case recovery_cases[] = {
      {XB_E_ELEMENT_MISSING},
      {"<bogus"}},
     {"a counted element missing", entity("led", ""), {XB_E_CONSTRAINT}, {"</led"}},
+    {"a counted element missing, and a mistake behind it",
+     entity("led", "") + "<bogus/>",
+     {XB_E_CONSTRAINT, XB_E_ELEMENT_UNEXPECTED},
+     {"</led", "<bogus"}},
     {"a counted element misspelt", entity("led", "<ledinfo/>"), {XB_E_ELEMENT_UNEXPECTED}, {"<ledinfo"}},
     {"an unknown xsi:type",
      "<container xsi:type='Nothing'" + identity + "/>" + fan,
@@ -221,6 +225,17 @@ TEST(DecodeRecovery, an_element_out_of_order_is_decoded_from_there_on)
     EXPECT_EQ(d.statuses(), std::vector<int32_t>{XB_E_ELEMENT_UNEXPECTED});
     EXPECT_EQ(d.top().base.pdNotes.count, 1u);
     EXPECT_EQ(d.top().base.openQuestion.count, 1u);
+}
+
+TEST(DecodeRecovery, an_inherited_part_whose_first_element_is_missing_is_decoded_all_the_same)
+{
+    decoded d(
+        module(entity("storageSPI", "<speed>7</speed><channel>9</channel><blockSizeKB>01</blockSizeKB>")));
+    EXPECT_EQ(d.statuses(), std::vector<int32_t>{XB_E_ELEMENT_MISSING});
+    ASSERT_EQ(d.top().ext.storageSPI.count, 1u);
+    const auto &flash = node<BaseSpiFlash>(d.top().ext.storageSPI, 0);
+    EXPECT_EQ(flash.base.ext.speed, 7u);
+    EXPECT_EQ(flash.ext.channel, 9u);
 }
 
 TEST(DecodeRecovery, of_a_list_of_codes_those_that_are_none_stay_out)
