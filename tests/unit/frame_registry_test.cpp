@@ -297,7 +297,7 @@ TEST_P(RegistryLookup, out_of_memory_for_a_later_file_is_null_and_keeps_the_list
 TEST_P(RegistryLookup, every_handle_has_its_private_record)
 {
     for (uint32_t pd = 0; pd < 100; ++pd)
-        inv::remember_loaded_kind(look_up(3, pd), static_cast<uint8_t>(pd + 1));
+        inv::remember_loaded_kind(look_up(3, pd), static_cast<uint8_t>(pd + 1), nullptr);
     for (uint32_t pd = 0; pd < 100; ++pd)
         EXPECT_EQ(inv::loaded_kind(look_up(3, pd)), pd + 1);
 }

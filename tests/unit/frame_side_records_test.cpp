@@ -47,7 +47,7 @@ TEST_F(SideRecords, a_handle_made_by_hand_has_none_and_that_is_harmless)
     int table = 1;
     EXPECT_EQ(frame::find_side_record(&handle), nullptr);
     EXPECT_EQ(frame::find_side_record(nullptr), nullptr);
-    remember_loaded_kind(&handle, 3);
+    remember_loaded_kind(&handle, 3, nullptr);
     EXPECT_EQ(loaded_kind(&handle), 0);
     EXPECT_FALSE(set_side_table(&handle, side_table::eid_lookup, &table, count_release));
     EXPECT_EQ(get_side_table(&handle, side_table::eid_lookup), nullptr);
@@ -59,7 +59,7 @@ TEST_F(SideRecords, keep_the_loaded_kind)
     inv_xml_handle handle = {};
     ASSERT_TRUE(frame::add_side_record(&handle));
     EXPECT_EQ(loaded_kind(&handle), 0);
-    remember_loaded_kind(&handle, 6);
+    remember_loaded_kind(&handle, 6, nullptr);
     EXPECT_EQ(loaded_kind(&handle), 6);
     release_file_memory(&handle);
     EXPECT_EQ(loaded_kind(&handle), 0);
@@ -129,7 +129,7 @@ TEST_F(SideRecords, thousands_are_found_by_their_handles_in_any_order_of_coming_
     for (size_t i = 0; i < handles.size(); ++i) {
         order[i] = i;
         ASSERT_TRUE(frame::add_side_record(&handles[i]));
-        remember_loaded_kind(&handles[i], static_cast<uint8_t>(1 + i % 200));
+        remember_loaded_kind(&handles[i], static_cast<uint8_t>(1 + i % 200), nullptr);
     }
     std::shuffle(order.begin(), order.end(), random);
     for (size_t gone = 0; gone < order.size(); ++gone) {
@@ -159,7 +159,7 @@ TEST_F(SideRecords, running_out_of_memory_adds_nothing_and_keeps_the_others)
                 EXPECT_EQ(counting_memory::live(), live_before);
             }
         }
-        remember_loaded_kind(&handles[i], static_cast<uint8_t>(i + 1));
+        remember_loaded_kind(&handles[i], static_cast<uint8_t>(i + 1), nullptr);
         for (size_t j = 0; j <= i; ++j)
             EXPECT_EQ(loaded_kind(&handles[j]), j + 1);
     }

@@ -1,5 +1,6 @@
 #include "load_world.h"
 
+#include "frame/file_memory.h"
 #include "frame/registry.h"
 #include "inv_parser/loaders.h"
 #include "inv_parser/tree_internal.h"
@@ -9,6 +10,7 @@
 #include "support/trace_recorder.h"
 #include "tree/current_file.h"
 
+#include <cstring>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -268,7 +270,10 @@ TEST(Load, what_a_kinds_own_function_has_loaded_is_known)
     }
 }
 
-TEST(Load, a_document_whose_entities_do_not_begin_the_tree_is_of_no_known_kind)
+constexpr auto loaded_module = static_cast<uint8_t>(inv::load::document_kind::module);
+constexpr auto without_unit = static_cast<uint8_t>(inv::load::document_kind::without_unit);
+
+TEST(Load, a_document_whose_entities_do_not_begin_the_tree_is_known_to_be_without_unit)
 {
     fresh_library library;
     sch_base_entity_type record = {};
@@ -277,10 +282,30 @@ TEST(Load, a_document_whose_entities_do_not_begin_the_tree_is_of_no_known_kind)
     root_eid = &other;
     const loader_case pem = loaders()[4];
     inv_xml_handle *handle = load_directly(pem, path_of(pem.document));
-    EXPECT_EQ(inv::loaded_kind(handle), 0);
+    EXPECT_EQ(inv::loaded_kind(handle), without_unit);
     root_eid = handle->root = nullptr;
     inv_parser_close_xml_file(handle);
     library.release_kept(handle);
+}
+
+// The record that a release would take for the new unit's is that of the old.
+TEST(Load, a_direct_load_of_another_kind_into_an_open_file_lets_no_record_go_as_another_type)
+{
+    for (const loader_case &each : loaders()) {
+        SCOPED_TRACE(each.document.name);
+        fresh_library library;
+        inv_xml_handle *handle = open_document(chassis_document());
+        // As if it were the file's new contents.
+        strncpy(handle->file_name, path_of(each.document).c_str(), sizeof handle->file_name - 1);
+        root_eid = nullptr;
+        EXPECT_EQ(each.load(handle), 0);
+        EXPECT_EQ(inv::loaded_kind(handle), is_module(each.document) ? loaded_module : without_unit);
+        // From here on releases look at each record.
+        auto *by_hand = inv::record_new<sch_i2c_chip_type>();
+        inv_parser_close_xml_file(handle);
+        inv::record_free(by_hand);
+        EXPECT_EQ(library.live(), 0u);
+    }
 }
 
 TEST(Load, a_chassis_loaded_by_its_own_function_knows_the_way_to_the_idproms_of_its_slots)

@@ -137,23 +137,54 @@ inv_xml_handle *made_by_hand(sample &records, bool is_known)
     return handle;
 }
 
-TEST(EidLookup, the_release_of_one_file_leaves_the_table_of_another_as_it_is)
+TEST(EidLookup, the_release_of_a_file_leaves_the_table_of_another_as_it_is)
 {
     sample records;
-    inv_xml_handle *other = made_by_hand(records, true);
+    auto *other = static_cast<inv_xml_handle *>(inv::memory::request(sizeof(inv_xml_handle)));
+    ASSERT_TRUE(inv::frame::add_side_record(other));
+    inv::begin_load(other);
+    {
+        inv::tree_growth_scope growth;
+        root_eid = nullptr;
+        parser_update_eid_chain(records.record({9, 1, 0}), nullptr);
+    }
+    inv::end_load(false);
+    other->root = root_eid;
     asked_sample tree;
     inv_schema_free_base_module_data(other);
     EXPECT_TRUE(tree.still_has_its_table());
 }
 
-// Its nodes may hang in the tree of any file.
-TEST(EidLookup, the_release_of_a_handle_that_the_registry_did_not_make_is_a_change_of_all_trees)
+// It would stay there when the other file is closed.
+TEST(EidLookup, a_tree_in_the_memory_of_another_file_is_in_no_table)
 {
-    sample records;
-    inv_xml_handle *other = made_by_hand(records, false);
-    asked_sample tree;
-    inv_schema_free_base_module_data(other);
-    EXPECT_FALSE(tree.still_has_its_table());
+    known_sample asked, other;
+    inv::begin_load(&other.handle);
+    root_eid = nullptr;
+    parser_update_eid_chain(other.record({9, 1, 0}), nullptr);
+    inv::end_load(false);
+    asked.handle.root = root_eid;
+    sch_eid_type eid = eid_of({{9, 1, 0}});
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&asked.handle, &eid), root_eid);
+    EXPECT_EQ(inv::get_side_table(&asked.handle, inv::side_table::eid_lookup), nullptr);
+    other.handle.root = root_eid;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(inv::find_entity_of(&other.handle, &eid), root_eid);
+    EXPECT_NE(inv::get_side_table(&other.handle, inv::side_table::eid_lookup), nullptr);
+    asked.handle.root = nullptr;
+}
+
+// Its nodes may hang in the tree of any file.
+TEST(EidLookup, the_release_of_a_tree_from_the_process_heap_is_a_change_of_all_trees)
+{
+    for (bool is_known : {false, true}) {
+        sample records;
+        inv_xml_handle *other = made_by_hand(records, is_known);
+        asked_sample tree;
+        inv_schema_free_base_module_data(other);
+        EXPECT_FALSE(tree.still_has_its_table()) << is_known;
+    }
 }
 
 TEST(EidLookup, the_tree_of_a_load_leaves_the_table_of_another_as_it_is)

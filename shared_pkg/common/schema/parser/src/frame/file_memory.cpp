@@ -69,6 +69,14 @@ chunk *map_chunk(size_t size)
     return made;
 }
 
+bool is_in(const chunk *list, const void *place)
+{
+    const auto at = reinterpret_cast<uintptr_t>(place);
+    while (list != nullptr && at - reinterpret_cast<uintptr_t>(list) >= list->size)
+        list = list->next;
+    return list != nullptr;
+}
+
 void unmap_chunks(chunk *list)
 {
     while (list != nullptr) {
@@ -213,6 +221,14 @@ void *record_request(size_t size) noexcept
 bool holds_all_records(const inv_xml_handle *handle) noexcept
 {
     return !frame::heap_records_were_made.load(std::memory_order_relaxed) && has_side_record(handle);
+}
+
+bool may_keep_tables_of(const inv_xml_handle *handle, const void *root) noexcept
+{
+    const frame::side_record *side = frame::find_side_record(handle);
+    if (side == nullptr || !frame::is_in_chunk(root))
+        return side != nullptr;
+    return frame::is_in(side->memory.first, root) || frame::is_in(side->memory.single, root);
 }
 
 void record_free(void *record) noexcept

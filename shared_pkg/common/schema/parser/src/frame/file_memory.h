@@ -66,6 +66,11 @@ struct load_scope {
     load_scope &operator=(const load_scope &) = delete;
 };
 
+// True when the handle's tables may keep what they know of a tree with this root: it is in the file's memory,
+// so that the tables go with it, or in the process heap, where releases are told of. The tree of another file
+// may go unnoticed.
+bool may_keep_tables_of(const inv_xml_handle *handle, const void *root) noexcept;
+
 // Gives all memory of the file back at once and forgets what was kept privately about the handle. The
 // handle stays allocated; whatever pointers it holds into its file's memory are the caller's to clear.
 void release_file_memory(const inv_xml_handle *handle) noexcept;

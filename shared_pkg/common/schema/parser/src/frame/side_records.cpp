@@ -163,14 +163,21 @@ bool set_side_table(const inv_xml_handle *handle, side_table which, void *table,
 uint8_t loaded_kind(const inv_xml_handle *handle) noexcept
 {
     const frame::side_record *record = frame::find_side_record(handle);
-    return record == nullptr ? 0 : record->kind;
+    if (record == nullptr)
+        return 0;
+    // A module's release goes by the handle's module record, wherever its tree begins.
+    const bool goes_by_root = record->kind != 0 && record->kind != loaded_module_document;
+    const bool has_other_root = handle->root != nullptr && handle->root->record != record->unit;
+    return goes_by_root && has_other_root ? uint8_t{loaded_without_unit} : record->kind;
 }
 
-void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind) noexcept
+void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind, const void *unit) noexcept
 {
     frame::side_record *record = frame::find_side_record(handle);
-    if (record != nullptr)
-        record->kind = kind;
+    if (record == nullptr)
+        return;
+    record->kind = kind;
+    record->unit = unit;
 }
 
 }  // namespace inv

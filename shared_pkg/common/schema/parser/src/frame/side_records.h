@@ -46,12 +46,18 @@ enum loaded_document : uint8_t {
     loaded_fan_tray_document,
     loaded_power_shelf_document,
     loaded_pem_document,
-    loaded_optics_document
+    loaded_optics_document,
+    // The handle's tree begins with another entity's record than the unit's: no release may take that record
+    // for the unit's.
+    loaded_without_unit
 };
 
-// Which kind of document was loaded into the handle, of those above or a loader's own; 0: none that is known.
+// Which kind of document was loaded into the handle last, going by the record that its tree begins with now;
+// 0: none that is known.
 uint8_t loaded_kind(const inv_xml_handle *handle) noexcept;
-void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind) noexcept;
+
+// unit: the document's own record.
+void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind, const void *unit) noexcept;
 
 }  // namespace inv
 
@@ -84,6 +90,7 @@ struct side_record {
     void *tables[side_table_count];
     side_table_release table_releases[side_table_count];
     uint8_t kind;
+    const void *unit;
 };
 
 // Null when the handle has none, or is null.

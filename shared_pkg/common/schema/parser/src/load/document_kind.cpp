@@ -20,23 +20,14 @@ constexpr document_kind kinds[] = {
 };
 constexpr uint32_t second_generation_module = 13;
 
-template <auto &global>
-const void *record_in()
-{
-    return global;
-}
-
 // In the order of document_kind.
 constexpr kind_actions actions[] = {
-    {"Chassis", parser_retrieve_chassis_data, inv_schema_free_chassis_data, record_in<chassis_data>, true},
-    {"Module", parser_retrieve_module_data, inv_schema_free_base_module_data, record_in<module_data>, false},
-    {"FanTray", parser_retrieve_fantray_xml_data, inv_schema_free_fan_tray_data, record_in<fantray_data>,
-     true},
-    {"Powershelf", parser_retrieve_powershelf_xml_data, inv_schema_free_power_shelf_data,
-     record_in<power_shelf_data>, true},
-    {"PEM", parser_retrieve_pem_xml_data, inv_schema_free_pem_data, record_in<pem_data>, true},
-    {"CXP", parser_retrieve_cxp_fixed_optics_xml_data, inv_schema_free_port_module_data, record_in<cxp_data>,
-     true},
+    {"Chassis", parser_retrieve_chassis_data, inv_schema_free_chassis_data, true},
+    {"Module", parser_retrieve_module_data, inv_schema_free_base_module_data, false},
+    {"FanTray", parser_retrieve_fantray_xml_data, inv_schema_free_fan_tray_data, true},
+    {"Powershelf", parser_retrieve_powershelf_xml_data, inv_schema_free_power_shelf_data, true},
+    {"PEM", parser_retrieve_pem_xml_data, inv_schema_free_pem_data, true},
+    {"CXP", parser_retrieve_cxp_fixed_optics_xml_data, inv_schema_free_port_module_data, true},
 };
 
 }  // namespace

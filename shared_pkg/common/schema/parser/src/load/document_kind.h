@@ -18,18 +18,18 @@ enum class document_kind : uint8_t {
     power_shelf,
     pem,
     cxp_optics,
-    // Remembered of a load that ran out of memory such that the tree begins with another entity's record.
-    // It has no actions: no release may take that record for the unit's.
+    // Its tree does not begin with the unit, since a load ran out of memory or another one has followed. It
+    // has no actions: no release may take the record there for the unit's.
     without_unit
 };
 static_assert(static_cast<uint8_t>(document_kind::chassis) == loaded_chassis_document);
 static_assert(static_cast<uint8_t>(document_kind::cxp_optics) == loaded_optics_document);
+static_assert(static_cast<uint8_t>(document_kind::without_unit) == loaded_without_unit);
 
 struct kind_actions {
     const char *name;                   // as trace lines have it
     int32_t (*load)(inv_xml_handle *);  // 0, or the code that fails the open
     void (*release)(inv_xml_handle *);  // record, tree and handle
-    const void *(*unit_record)();       // the record of the document that was loaded last
     bool needs_tree;                    // the release goes by the root's record and does nothing without
 };
 

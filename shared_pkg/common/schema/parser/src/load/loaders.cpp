@@ -188,9 +188,7 @@ int32_t decode_and_build(xb_context *context, inv_xml_handle *handle, typename D
     parser_set_inv_file_instance(handle);
     Document::build(record, &decoded);
     parser_set_inv_file_instance(nullptr);
-    // An open says more exactly what it was.
-    if (root_eid != nullptr && static_cast<const void *>(root_eid->record) == record)
-        remember_loaded_kind(handle, Document::kind);
+    remember_loaded_kind(handle, Document::kind, record);
     return 0;
 }
 

@@ -153,14 +153,6 @@ bool local_clock(tm *clock)
     return localtime_r(&now, clock) != nullptr;
 }
 
-// What to remember of a load whose tree is root_eid.
-document_kind kind_to_remember(document_kind kind)
-{
-    const load::kind_actions &actions = load::actions_of(kind);
-    bool has_other_root = root_eid != nullptr && root_eid->record != actions.unit_record();
-    return actions.needs_tree && has_other_root ? document_kind::without_unit : kind;
-}
-
 // Runs the kind's loader and puts what it built into the handle. False when the loader failed.
 template <class Generation>
 bool load_into(inv_xml_handle *handle, document_kind kind, const open_request &request)
@@ -171,7 +163,6 @@ bool load_into(inv_xml_handle *handle, document_kind kind, const open_request &r
         return false;
     }
     Generation::trace_succeeded(kind, request);
-    remember_loaded_kind(handle, static_cast<uint8_t>(kind_to_remember(kind)));
     handle->state = INV_HANDLE_PARSED;
     handle->root = root_eid;
     ++handle->file_count;

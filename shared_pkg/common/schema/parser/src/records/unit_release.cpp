@@ -1,6 +1,7 @@
 // Release of what a load results in: the handle with its tree and its unit's record.
 #include "inv_parser/release.h"
 
+#include "frame/chunk_ranges.h"
 #include "frame/file_memory.h"
 #include "inv_parser/unit_records.h"
 #include "tree/growth.h"
@@ -17,11 +18,11 @@ bool may_hold(const inv_xml_handle *result, loaded_document kind)
     return loaded == 0 || loaded == kind;
 }
 
-// The tables that know the tree of a handle that the registry made go with the handle; those of other files
-// are right as they are.
+// The tables that know a tree in the memory of a file go with its handle; those of other files are right as
+// they are.
 void release_tree(const inv_xml_handle *result)
 {
-    if (has_side_record(result))
+    if (has_side_record(result) && frame::is_in_chunk(result->root))
         release_eid_nodes(result->root);
     else
         inv_schema_free_eid_chain_list(result->root);

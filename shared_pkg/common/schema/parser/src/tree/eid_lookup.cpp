@@ -1,11 +1,12 @@
 #include "tree/eid_lookup.h"
 
-#include "frame/side_records.h"
+#include "frame/file_memory.h"
 #include "inv_parser/tree_internal.h"
 #include "inv_platform/system_memory.h"
 #include "tree/entity_walk.h"
 #include "tree/path_table.h"
 
+#include <atomic>
 #include <new>
 #include <stdint.h>
 
@@ -15,7 +16,8 @@ namespace inv
 namespace
 {
 
-uint64_t change_count;
+// Nodes may be released without the lock.
+std::atomic<uint64_t> change_count;
 
 // Kept with a handle from its first lookup on; has paths from the second.
 struct eid_lookup {
@@ -39,14 +41,14 @@ eid_lookup *current_lookup(const inv_xml_handle *handle)
     if (!has_side_record(handle))
         return nullptr;
     auto *lookup = static_cast<eid_lookup *>(get_side_table(handle, side_table::eid_lookup));
-    if (lookup != nullptr && lookup->root == root_eid && lookup->made_at == change_count)
+    if (lookup != nullptr && lookup->root == root_eid && lookup->made_at == tree_change_count())
         return lookup;
-    void *storage = memory::request(sizeof(eid_lookup));
+    void *storage = may_keep_tables_of(handle, root_eid) ? memory::request(sizeof(eid_lookup)) : nullptr;
     if (storage == nullptr)
         return nullptr;
     lookup = new (storage) eid_lookup;
     lookup->root = root_eid;
-    lookup->made_at = change_count;
+    lookup->made_at = tree_change_count();
     set_side_table(handle, side_table::eid_lookup, lookup, release_lookup);
     return nullptr;
 }
@@ -79,12 +81,12 @@ eid_chain_node *find_entity_of(const inv_xml_handle *handle, sch_eid_type *eid) 
 
 void note_tree_change() noexcept
 {
-    ++change_count;
+    change_count.fetch_add(1, std::memory_order_relaxed);
 }
 
 uint64_t tree_change_count() noexcept
 {
-    return change_count;
+    return change_count.load(std::memory_order_relaxed);
 }
 
 }  // namespace inv

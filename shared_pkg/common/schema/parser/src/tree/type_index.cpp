@@ -1,6 +1,6 @@
 #include "tree/type_index.h"
 
-#include "frame/side_records.h"
+#include "frame/file_memory.h"
 #include "inv_platform/system_memory.h"
 #include "tree/eid_fill.h"
 #include "tree/eid_lookup.h"
@@ -128,7 +128,7 @@ const type_index *type_index_for(const inv_xml_handle *handle, const entity_filt
         return kept;
     // The old one goes first: two at a time would be twice the memory.
     set_side_table(handle, side_table::type_index, nullptr, memory::release);
-    type_index *made = make_index();
+    type_index *made = may_keep_tables_of(handle, root_eid) ? make_index() : nullptr;
     set_side_table(handle, side_table::type_index, made, memory::release);
     return made;
 }
