@@ -107,7 +107,9 @@ soak-threads: ## ten million calls of eight threads under the thread sanitizer
 soak-document: ## documents that are one attribute of as many octets as a file may have (16 GB of memory)
 	$(call packages,build test)
 	$(call build,dev,--target hostile_test)
-	INV_SOAK=1 $(BUILD)/tests/hostile/hostile_test --gtest_filter='*as_long_as_may_be*'
+	set -o pipefail; INV_SOAK=1 $(BUILD)/tests/hostile/hostile_test --gtest_filter='*as_long_as_may_be*' | tee build/soak-document.txt
+	grep -q '^\[  PASSED  \] 1 test' build/soak-document.txt
+	! grep -q SKIPPED build/soak-document.txt
 
 soak-memory: ## half an hour of opening, asking and closing in one process: memory and files stay as they were
 	$(call packages,build test)

@@ -26,6 +26,7 @@ read_used() {
 }
 
 times_file=$(mktemp)
+trap 'rm -f "$times_file"' EXIT
 used=0
 fuzzer=0
 findings=0
@@ -68,10 +69,10 @@ run_slice() {
 while [ $stopped = no ]; do
     for target in "${targets[@]}"; do
         if [ $stopped = yes ] || awk "BEGIN { exit !($used >= $wanted) }"; then
-            rm "$times_file"
-            [ $findings -eq 0 ] || echo "$findings findings: see build/findings"
-            exit $((findings > 0))
+            break 2
         fi
         run_slice "$target" "$slice"
     done
 done
+[ $findings -eq 0 ] || echo "$findings findings: see build/findings"
+exit $((findings > 0))

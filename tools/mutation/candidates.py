@@ -45,6 +45,7 @@ class Candidate:
     original: str
     line: int
     source: str  # the line, trimmed
+    function: str  # that it stands in, by its bare name
 
     @property
     def change(self):
@@ -54,6 +55,14 @@ class Candidate:
 def readable(text):
     """What was read as one character per octet."""
     return text.encode("latin-1").decode("utf-8", "replace")
+
+
+def function_around(lines):
+    """The bare name of the function whose head is the last one of these lines that begins at the margin."""
+    for line in reversed(lines):
+        if head := re.match(r"[A-Za-z].*?(\w+)\(", line):
+            return head[1]
+    return ""
 
 
 def one_line(text):
@@ -93,9 +102,11 @@ class Finder:
     def add(self, file, start, end, mutated, form="value"):
         line = file.text.count("\n", 0, start) + 1
         original = readable(one_line(file.text[start:end]))
-        source = readable(file.text.splitlines()[line - 1].strip())
+        lines = file.text.splitlines()
+        source = readable(lines[line - 1].strip())
         self.found.setdefault((file.name, start, end, mutated),
-                              Candidate(file.name, start, end, mutated, form, original, line, source))
+                              Candidate(file.name, start, end, mutated, form, original, line, source,
+                                        function_around(lines[:line])))
 
     def scan_unit(self, name):
         unit = Index.create().parse(name, args=OPTIONS, options=TranslationUnit.PARSE_DETAILED_PROCESSING_RECORD)

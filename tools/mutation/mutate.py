@@ -44,24 +44,24 @@ def draw(found, count, seed, rejected):
 
 
 def key_of(mutant):
-    """What a mutant is known by when lines move."""
-    return (os.path.relpath(mutant.file, candidates.SOURCES), mutant.source, mutant.change)
+    """What a mutant is known by when lines move. Mutants of equal parts of a line have the same."""
+    return (os.path.relpath(mutant.file, candidates.SOURCES), mutant.function, mutant.source, mutant.change)
 
 
 def read_explained(path):
-    """survivors.md: a section per file, per mutant a list entry of source line, change and reason.
-    - `source line` : `change`
+    """survivors.md: a section per file, per mutant a list entry of function, source line, change and reason.
+    - `function`: `source line` : `change`
       reason
     """
-    explained = {}
+    explained = collections.defaultdict(list)
     name = None
     with open(path, encoding="utf-8") as file:
         text = file.read()
     for block in re.split(r"\n(?=- |#)", text):
         if heading := re.match(r"## (\S+)", block):
             name = heading[1]
-        elif entry := re.match(r"- ``?(.+?)``? : ``?(.+?)``?\s*\n\s+(\S.*)", block, re.S):
-            explained[name, entry[1].strip(), entry[2].strip()] = " ".join(entry[3].split())
+        elif entry := re.match(r"- `(\w*)`: ``?(.+?)``? : ``?(.+?)``?\s*\n\s+(\S.*)", block, re.S):
+            explained[name, entry[1], entry[2].strip(), entry[3].strip()].append(" ".join(entry[4].split()))
     return explained
 
 
@@ -105,8 +105,8 @@ def judge(number, mutant, tests, args):
         if result != "passed":
             outcome, killer = ("killed" if result == "failed" else "timed out"), program.name
             break
-    name, source, change = key_of(mutant)
-    return {"number": number, "file": name, "line": mutant.line, "source": source, "change": change,
+    name, function, source, change = key_of(mutant)
+    return {"number": number, "file": name, "function": function, "line": mutant.line, "source": source, "change": change,
             "outcome": outcome, "by": killer, "programs": tried,
             "seconds": round(time.monotonic() - begin, 2)}
 
@@ -144,12 +144,16 @@ def table(rows):
 def report(rows, found, args):
     """Writes the report and returns whether enough mutants are killed and all others are explained."""
     explained = read_explained(os.path.join(args.root, EXPLAINED))
-    stale = sorted(set(explained) - {key_of(mutant) for mutant in found})
-    for name, source, change in stale:
-        print(f"explained, but there is no such mutant: {name}: {source}: {change}")
-    for row in rows:
-        row["reason"] = explained.get((row["file"], row["source"], row["change"]))
     survivors = [row for row in rows if row["outcome"] == "survived"]
+    left = collections.Counter(key_of(mutant) for mutant in found)
+    left.subtract({key: len(reasons) for key, reasons in explained.items()})
+    stale = sorted(key for key, number in left.items() if number < 0)
+    for key in stale:
+        print(f"explained, but there is no such mutant: {': '.join(key)}")
+    # Each entry excuses one mutant.
+    for row in survivors:
+        reasons = explained[row["file"], row["function"], row["source"], row["change"]]
+        row["reason"] = reasons.pop(0) if reasons else None
     equivalent = [row for row in survivors if row["reason"]]
     killed = len(rows) - len(survivors)
     timed_out = sum(row["outcome"] == "timed out" for row in rows)
