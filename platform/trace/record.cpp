@@ -20,12 +20,14 @@ void forget_thread()
     thread_id = 0;
 }
 
+// Zero before the library is initialised: nothing is kept until then.
+const bool forgets_after_fork = pthread_atfork(nullptr, nullptr, forget_thread) == 0;
+
 // The child of a fork goes on with the memory of the thread that forked, but not with its id.
 uint32_t this_thread()
 {
     if (thread_id != 0)
         return thread_id;
-    static const bool forgets_after_fork = pthread_atfork(nullptr, nullptr, forget_thread) == 0;
     const auto id = static_cast<uint32_t>(gettid());
     if (forgets_after_fork)
         thread_id = id;

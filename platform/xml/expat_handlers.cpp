@@ -81,9 +81,12 @@ std::string_view first_characters(const expat_source &source, char (&characters)
     return std::string_view(characters, count);
 }
 
-// Where an event comes out of an entity, the place in the document is that of the reference.
+// Where an event comes out of an entity, the place in the document is that of the reference. In a CDATA
+// section it is that of the text, in which an ampersand says nothing.
 bool is_inside_entity(const expat_source &source)
 {
+    if (source.in_character_data)
+        return false;
     char characters[6];
     const std::string_view first = first_characters(source, characters);
     return first.starts_with('&') && !is_of_character(first.substr(1, first.find(';') - 1));
@@ -274,6 +277,17 @@ void XMLCALL on_text(void *user, const XML_Char *text, int length)
         pause_when_full(source);
 }
 
+void XMLCALL on_character_data(void *user)
+{
+    expat_source &source = *static_cast<expat_source *>(user);
+    source.in_character_data = !is_inside_entity(source);
+}
+
+void XMLCALL on_end_of_character_data(void *user)
+{
+    static_cast<expat_source *>(user)->in_character_data = false;
+}
+
 void XMLCALL on_declaration(void *user, const XML_Char *, const XML_Char *encoding, int)
 {
     expat_source &source = *static_cast<expat_source *>(user);
@@ -351,6 +365,7 @@ void set_handlers(expat_source &source)
     XML_SetUserData(source.parser, &source);
     XML_SetElementHandler(source.parser, on_start_tag, on_end_tag);
     XML_SetCharacterDataHandler(source.parser, on_text);
+    XML_SetCdataSectionHandler(source.parser, on_character_data, on_end_of_character_data);
     XML_SetXmlDeclHandler(source.parser, on_declaration);
     XML_SetSkippedEntityHandler(source.parser, on_skipped_entity);
     XML_SetNotStandaloneHandler(source.parser, on_unread_declarations);

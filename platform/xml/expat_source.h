@@ -51,6 +51,7 @@ struct expat_source {
     size_t fill;               // of the queue after the last event
     XML_Index reference_at;    // of the entity reference that the last event came out of, or no_reference
     size_t fill_in_front;      // of that reference
+    bool in_character_data;    // in a CDATA section of the document itself
     uint64_t default_octets;   // of attributes that the document type has given so far
     size_t declarations;
     event ending;

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <unordered_map>
-#include <vector>
 
 namespace hostile
 {
@@ -42,20 +41,26 @@ same_step find_same_step(uint32_t state)
 
 }  // namespace
 
-std::string prefixes_of_one_hash(unsigned doublings)
+std::vector<std::string> names_of_one_hash(unsigned doublings)
 {
-    std::vector<std::string> prefixes = {""};
+    std::vector<std::string> names = {""};
     uint32_t state = 2166136261U;
     for (unsigned i = 0; i < doublings; ++i) {
         const same_step step = find_same_step(state);
         std::vector<std::string> doubled;
-        for (const std::string &prefix : prefixes) {
-            doubled.push_back(prefix + step.either);
-            doubled.push_back(prefix + step.other);
+        for (const std::string &name : names) {
+            doubled.push_back(name + step.either);
+            doubled.push_back(name + step.other);
         }
-        prefixes = std::move(doubled);
+        names = std::move(doubled);
         state = step.state;
     }
+    return names;
+}
+
+std::string prefixes_of_one_hash(unsigned doublings)
+{
+    const std::vector<std::string> prefixes = names_of_one_hash(doublings);
     std::string text;
     for (const std::string &prefix : prefixes)
         text += " xmlns:" + prefix + "='u'";

@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <regex>
@@ -235,7 +236,8 @@ TEST(TraceChannel, control_characters_of_any_length_are_dots_for_people)
 void trace_with_own_thread_and_exit(void *channel)
 {
     int ends[2];
-    const bool is_ready = pipe(ends) == 0 && dup2(ends[1], STDERR_FILENO) == STDERR_FILENO;
+    // The line is there when the call returns; without one the reading ends at once.
+    const bool is_ready = pipe2(ends, O_NONBLOCK) == 0 && dup2(ends[1], STDERR_FILENO) == STDERR_FILENO;
     qtrace_configuration config = configuration(1, nullptr);
     qtrace_enable_configuration(channel, &config);
     qtrace_internal(channel, 2, 4, 0, "", "\n");

@@ -329,6 +329,19 @@ TEST(XmlDocuments, text_is_not_taken_for_references)
     }
 }
 
+// A long token in front lets a whole section come as one event.
+TEST(XmlDocuments, an_ampersand_in_a_cdata_section_is_not_taken_for_a_reference)
+{
+    const std::string text = "<!DOCTYPE r><!--" + std::string(6000000, ' ') + "--><r><![CDATA[&" +
+                             std::string(2000000, 'x') + "]]></r>";
+    EXPECT_EQ(read_whole(text, size_t{32} << 20).status, XB_OK);
+    const std::string expanding = "<!DOCTYPE r [<!ENTITY e '" + std::string(2000000, 'x') + "'>]><r>&e;</r>";
+    EXPECT_EQ(read_whole(expanding, size_t{32} << 20).status, XB_E_MALFORMED);
+    const std::string in_an_entity =
+        "<!DOCTYPE r [<!ENTITY e '<![CDATA[" + std::string(2000000, 'x') + "]]>'>]><r>&e;</r>";
+    EXPECT_EQ(read_whole(in_an_entity, size_t{32} << 20).status, XB_E_MALFORMED);
+}
+
 std::string bomb(const std::string &seed, const std::string &use)
 {
     std::string text = "<!DOCTYPE r [<!ENTITY e0 '" + seed + "'>";

@@ -1,6 +1,7 @@
 #include "xml/namespaces.h"
 #include "xml/text_stack.h"
 
+#include "hostile/hostile_names.h"
 #include "support/document_generator.h"
 
 #include <gtest/gtest.h>
@@ -125,6 +126,23 @@ TEST(XmlNamespaces, a_scope_finds_what_a_search_from_the_newest_declaration_on_f
                 const std::string prefix = random_prefix(random);
                 ASSERT_EQ(s.find(prefix), find_slowly(s.scope, prefix)) << prefix;
             }
+        }
+    }
+}
+
+TEST(XmlNamespaces, prefixes_of_one_hash_are_told_apart)
+{
+    const std::vector<std::string> prefixes = hostile::names_of_one_hash(7);
+    random_source random{2};
+    scope_under_test s;
+    for (int step = 0; step < 2000; ++step) {
+        if (one_in(random, 20))
+            scope_leave(s.scope, draw_below(random, s.scope.bindings.count + 1));
+        // Every second one is never declared.
+        s.declare(prefixes[draw_below(random, prefixes.size() / 2) * 2], "u" + std::to_string(step));
+        for (int i = 0; i < 20; ++i) {
+            const std::string &prefix = prefixes[draw_below(random, prefixes.size())];
+            ASSERT_EQ(s.find(prefix), find_slowly(s.scope, prefix)) << prefix;
         }
     }
 }
