@@ -6,7 +6,7 @@ FUZZ_TARGETS="document roads open_chassis open_module open_fan_tray open_power_s
 
 # fuzz_options TARGET. The catalogue's lookup and the opens report on standard error what is wrong with their input.
 fuzz_options() {
-    echo "-timeout=20 -rss_limit_mb=4096"
+    echo "-timeout=60 -rss_limit_mb=4096"
     case $1 in
     catalogue) echo "-max_len=4096 -close_fd_mask=2" ;;
     eid) echo "-max_len=4096" ;;

@@ -459,6 +459,18 @@ TEST_F(FiledSlots, of_a_later_load_have_no_table_where_elements_stood_before)
     EXPECT_NE(inv::find_filed_slot(&handle, handle.i2c_cc_slot_lists, line_card, 7), nullptr);
 }
 
+TEST_F(SlotLookup, behind_a_scope_lists_are_searched_literally_again)
+{
+    {
+        inv::slot_lookup_scope scope(&handle);
+        file_i2c(line_card, 7, SCH_CTRL_SLOT_ANY, 1);
+    }
+    auto *element = inv::record_new<sch_cc_slot_xml_inst_type>();
+    element->key = 9;
+    parser_insert_cc_slot_xml_inst(handle.i2c_cc_slot_lists, line_card, element);
+    EXPECT_EQ(inv::find_slot_element(handle.i2c_cc_slot_lists, line_card, 9), element);
+}
+
 TEST_F(SlotLookup, without_memory_to_keep_a_table_lists_are_searched)
 {
     ASSERT_TRUE(inv::frame::add_side_record(&handle));

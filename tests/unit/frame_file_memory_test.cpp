@@ -369,6 +369,28 @@ TEST_F(FileMemory, small_records_of_a_retry_lie_apart_from_the_others)
     handle_forget(handle);
 }
 
+TEST_F(FileMemory, tables_may_be_kept_of_trees_in_ones_own_memory_and_in_the_heap)
+{
+    inv_xml_handle *handle = new_handle();
+    inv_xml_handle *other = new_handle();
+    int elsewhere = 0;
+    begin_load(handle);
+    std::vector<void *> places = {&elsewhere, record_request(16), record_request(10 * kibi * kibi)};
+    // So that the file has more than one chunk, and two of their own.
+    for (int i = 0; i < 10; ++i)
+        places.push_back(record_request(14 * kibi));
+    places.push_back(record_request(10 * kibi * kibi));
+    end_load(false);
+    for (const void *place : places) {
+        EXPECT_TRUE(may_keep_tables_of(handle, place));
+        EXPECT_EQ(may_keep_tables_of(other, place), place == &elsewhere);
+    }
+    handle_forget(other);
+    handle_forget(handle);
+    inv_xml_handle by_hand = {};
+    EXPECT_FALSE(may_keep_tables_of(&by_hand, &elsewhere));
+}
+
 TEST_F(FileMemory, no_table_knows_what_a_failed_load_built_when_the_next_begins)
 {
     inv_xml_handle *handle = new_handle();
