@@ -18,7 +18,7 @@ constexpr size_t queue_events = 1024;
 // What one reference may expand to in the queue, which it has to fit into as a whole; and so do references
 // that follow each other with nothing between.
 constexpr size_t most_of_one_reference = size_t{1} << 20;
-constexpr size_t most_of_references = size_t{8} << 20;
+constexpr size_t most_of_references = size_t{4} << 20;
 
 // Values that the document type gives may come to this many octets, or to this many times what has
 // been read of the document; expat bounds entities likewise, but not these.

@@ -40,7 +40,7 @@ struct cost {
 
 cost cost_of(const document &d, uint32_t pi_hw_type, questions ask);
 
-// The cheapest of several runs of each, taken in turn so that both see the same load of the machine. Runs
+// The cheapest of 3 to 15 runs of each, taken in turn so that both see the same load of the machine. Runs
 // that differ in what they found count as died; of what they left, the most.
 struct comparison {
     cost of_hostile;
