@@ -81,11 +81,17 @@ std::string_view first_characters(const expat_source &source, char (&characters)
     return std::string_view(characters, count);
 }
 
+// The end of an empty-element tag has no octets of its own: at its place stands what follows the tag.
+bool is_without_octets(const expat_source &source)
+{
+    return XML_GetCurrentByteCount(source.parser) == 0;
+}
+
 // Where an event comes out of an entity, the place in the document is that of the reference. In a CDATA
 // section it is that of the text, in which an ampersand says nothing.
 bool is_inside_entity(const expat_source &source)
 {
-    if (source.in_character_data)
+    if (source.in_character_data || is_without_octets(source))
         return false;
     char characters[6];
     const std::string_view first = first_characters(source, characters);
@@ -202,9 +208,8 @@ void queue_tag(expat_source &source, queued_kind kind, const XML_Char *name, con
     queued_event queued = {};
     queued.kind = kind;
     queued.place = here(source);
-    // The end of an empty-element tag has no octets of its own; it stands where its tag does.
-    if (kind == queued_kind::end_tag && source.events.count > 0 &&
-        XML_GetCurrentByteCount(source.parser) == 0)
+    // Such an end stands where its tag does.
+    if (kind == queued_kind::end_tag && source.events.count > 0 && is_without_octets(source))
         queued.place = source.events.items[source.events.count - 1].place;
     bool kept = keep_text(source.octets, name, queued.text);
     if (kept && attributes != nullptr && attributes[0] != nullptr) {

@@ -369,11 +369,12 @@ bool is_part_of(const std::string &given, const std::string &whole, const shape 
     return given.size() <= whole.size();
 }
 
-// Something was answered, and it is not what it should be. What failed says so itself.
-bool is_partial(const life &lived, const life &wanted)
+// The open failed, or something was answered that is not what it should be. A question that failed says so
+// itself.
+bool needs_telling(const life &lived, const life &wanted)
 {
     if (!lived.is_open || lived.head != wanted.head)
-        return lived.is_open;
+        return true;
     for (size_t i = 0; i < lived.given.size(); ++i)
         if (!lived.given[i].empty() && lived.given[i] != wanted.given[i])
             return true;
@@ -383,7 +384,7 @@ bool is_partial(const life &lived, const life &wanted)
 void expect_honest(const life &lived, const life &wanted, const whole_channel &channel,
                    const std::set<uint32_t> &wanted_lines)
 {
-    if (!is_partial(lived, wanted))
+    if (!needs_telling(lived, wanted))
         return;
     const bool is_told = tells_more(channel.since_mark(), wanted_lines);
     EXPECT_TRUE(is_told || lived.head == wanted.head);

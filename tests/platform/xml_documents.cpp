@@ -342,6 +342,17 @@ TEST(XmlDocuments, an_ampersand_in_a_cdata_section_is_not_taken_for_a_reference)
     EXPECT_EQ(read_whole(in_an_entity, size_t{32} << 20).status, XB_E_MALFORMED);
 }
 
+// The end of such a tag has no octets of its own: what stands behind it says nothing of where it comes from.
+TEST(XmlDocuments, an_empty_tag_in_front_of_a_reference_is_no_part_of_the_entity)
+{
+    const std::string small = with_references(1, repeated("<a/>&e;", 2000));
+    EXPECT_EQ(read_whole(small).content, repeated("<a></a>x", 2000));
+    EXPECT_EQ(read_whole(utf16(small, true, true)).content, repeated("<a></a>x", 2000));
+    const std::string value(5000000, 'v');
+    EXPECT_EQ(read_whole(with_references(1, "<a b='" + value + "'/>&e;")).content,
+              "<a b=\"" + value + "\"></a>x");
+}
+
 std::string bomb(const std::string &seed, const std::string &use)
 {
     std::string text = "<!DOCTYPE r [<!ENTITY e0 '" + seed + "'>";

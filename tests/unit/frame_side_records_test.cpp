@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 namespace
@@ -63,6 +64,20 @@ TEST_F(SideRecords, keep_the_loaded_kind)
     EXPECT_EQ(loaded_kind(&handle), 6);
     release_file_memory(&handle);
     EXPECT_EQ(loaded_kind(&handle), 0);
+}
+
+// A client may have given the handle the tree of another file, which went before.
+TEST_F(SideRecords, tell_a_module_without_a_look_at_its_tree)
+{
+    inv_xml_handle handle = {};
+    ASSERT_TRUE(frame::add_side_record(&handle));
+    remember_loaded_kind(&handle, loaded_module_document, nullptr);
+    void *pages = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(pages, MAP_FAILED);
+    handle.root = static_cast<eid_chain_node *>(pages);
+    EXPECT_EQ(loaded_kind(&handle), loaded_module_document);
+    release_file_memory(&handle);
+    munmap(pages, 4096);
 }
 
 TEST_F(SideRecords, release_a_table_when_it_is_replaced_and_when_the_file_goes)

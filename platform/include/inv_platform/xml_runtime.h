@@ -214,7 +214,7 @@ void rtxStreamClose(xb_context *ctx);
  * External entities are never loaded and end the reading with XB_E_MALFORMED, as do references
  * whose text is not known, entities or default values that expand far beyond the document's size, a
  * reference to an entity whose events take more than one megabyte of memory (text, some hundred octets for
- * each tag, some forty for each attribute), and references to entities that take more than eight with no
+ * each tag, some forty for each attribute), and references to entities that take more than four with no
  * text, tag or reference to a character between them.
  * A document type that stands outside of the document is passed over; attribute values may then
  * refer to characters and the predefined entities only. One within may declare 1000 entities and

@@ -165,10 +165,11 @@ uint8_t loaded_kind(const inv_xml_handle *handle) noexcept
     const frame::side_record *record = frame::find_side_record(handle);
     if (record == nullptr)
         return 0;
-    // A module's release goes by the handle's module record, wherever its tree begins.
+    // A module's release goes by the handle's module record, wherever its tree begins; that may be gone.
     const bool goes_by_root = record->kind != 0 && record->kind != loaded_module_document;
-    const bool has_other_root = handle->root != nullptr && handle->root->record != record->unit;
-    return goes_by_root && has_other_root ? uint8_t{loaded_without_unit} : record->kind;
+    const bool has_other_root =
+        goes_by_root && handle->root != nullptr && handle->root->record != record->unit;
+    return has_other_root ? uint8_t{loaded_without_unit} : record->kind;
 }
 
 void remember_loaded_kind(const inv_xml_handle *handle, uint8_t kind, const void *unit) noexcept
