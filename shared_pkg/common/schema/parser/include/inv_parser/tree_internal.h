@@ -6,6 +6,9 @@
  * for those of parser_xml_inst_compare() and for a comparison, which may not be null. Walks go in
  * pre-order: a node, its children, then its next sibling; "list" is a node with its later siblings and
  * everything below them. A node without a record has an all-zero triple.
+ *
+ * Queries answer from tables of the tree. A tree that has been asked while nodes of another file were
+ * linked into it by hand is closed before that file, also when they have been taken out again.
  */
 #ifndef INV_PARSER_TREE_INTERNAL_H
 #define INV_PARSER_TREE_INTERNAL_H
