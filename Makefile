@@ -104,7 +104,7 @@ soak-threads: ## ten million calls of eight threads under the thread sanitizer
 	$(call build,tsan,--target threads_stress_test)
 	INV_STRESS_CALLS=$(SOAK_CALLS) build/tsan/tests/stress/threads_stress_test
 
-soak-document: ## documents that are one attribute of as many octets as a file may have (16 GB of memory)
+soak-document: ## documents that are one attribute of as many octets as a file may have (9 GB of memory)
 	$(call packages,build test)
 	$(call build,dev,--target hostile_test)
 	set -o pipefail; INV_SOAK=1 $(BUILD)/tests/hostile/hostile_test --gtest_filter='*as_long_as_may_be*' | tee build/soak-document.txt

@@ -55,8 +55,10 @@ check_file() {
 # As installed: the build's own files know their way to each other.
 cmake --install "$1" --prefix "$work/prefix" >/dev/null
 cd "$work/prefix"
-for elf in $(find . -name '*.so.*.*' -o -path './bin/*' -type f | sort); do
+find . \( -name '*.so.*' -o -path './bin/*' \) -type f | sort >"$work/files"
+[ "$(sed -E 's:.*/([a-z_]+).*:\1:' "$work/files" | xargs)" = "invctl libinv_parser libinv_platform" ] ||
+    { echo "installed are, and not the command and both libraries:"; cat "$work/files"; exit 1; }
+for elf in $(cat "$work/files"); do
     check_file
 done
-[ -n "${elf:-}" ] || { echo "nothing is installed"; exit 1; }
 exit $((faults > 0))

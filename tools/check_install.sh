@@ -14,10 +14,7 @@ library_dir=$(dirname "$(find "$prefix" -name libinv_parser.so)")
 export LD_LIBRARY_PATH="$library_dir" INV_CATALOG="$prefix/share/inv_parser/inventories/catalog.txt"
 
 run() {
-    {
-        "$1/consumer_c"
-        "$1/consumer_cpp"
-    } >"$work/printed" || { echo "check_install: a client built by $2 failed"; exit 1; }
+    { "$1/consumer_c" && "$1/consumer_cpp"; } >"$work/printed" || { echo "check_install: a client built by $2 failed"; exit 1; }
     diff -u "$consumers/expected.txt" "$work/printed" || { echo "check_install: clients built by $2 differ"; exit 1; }
     echo "clients built by $2: ok"
 }

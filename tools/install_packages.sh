@@ -6,7 +6,7 @@ set -eu
 packages_of() {
     case $1 in
     build) echo g++ cmake ninja-build libexpat1-dev libboost-dev libcli11-dev nlohmann-json3-dev ;;
-    test) echo libgtest-dev libgmock-dev libxml2-utils python3-jsonschema ;;
+    test) echo libgtest-dev libgmock-dev libxml2-utils python3-jsonschema zsh fish mandoc ;;
     coverage) echo gcovr ;;
     bench) echo libpugixml-dev librapidxml-dev libxml2-dev libbenchmark-dev ;;
     check) echo clang libclang-rt-14-dev clang-format clang-tidy cppcheck abigail-tools pkgconf binutils ;;

@@ -140,9 +140,8 @@ std::string hops_of(const Sequence *sequence)
 template <class Sequence>
 answer sequence_answered(uint32_t status, Sequence *sequence, void (*release)(Sequence *))
 {
-    // Kept: the form by EID succeeds without a sequence.
     if (sequence == nullptr)
-        return {};
+        return {status != 0, ""};
     answer given = {status != 0, head_of(sequence) + hops_of(sequence), sizeof *sequence,
                     sizeof sequence->hops[0]};
     release(sequence);
@@ -153,7 +152,7 @@ template <class Pair>
 answer pair_answered(uint32_t status, Pair *pair)
 {
     if (pair == nullptr)
-        return {};
+        return {status != 0, ""};
     const std::string heads = head_of(pair->slot0) + head_of(pair->slot1);
     answer given = {status != 0, heads + hops_of(pair->slot0) + hops_of(pair->slot1), heads.size(),
                     sizeof pair->slot0->hops[0]};
@@ -170,6 +169,7 @@ struct i2c {
     static constexpr auto by_eid = inv_parser_get_i2c_access_sequence_by_eid;
     static constexpr auto from_card = inv_parser_get_i2c_access_sequence_from_control_card;
     static constexpr auto release = inv_parser_free_i2c_access_sequence;
+    static constexpr bool by_eid_tells = false;  // kept: it succeeds without a sequence
 };
 
 struct pcie {
@@ -180,6 +180,7 @@ struct pcie {
     static constexpr auto by_eid = inv_parser_get_pcie_access_sequence_by_eid;
     static constexpr auto from_card = inv_parser_get_pcie_access_sequence_from_control_card;
     static constexpr auto release = inv_parser_free_pcie_access_sequence;
+    static constexpr bool by_eid_tells = true;
 };
 
 template <class Family>
@@ -194,6 +195,8 @@ void add_sequences(std::vector<question> &all, const sch_eid_type &eid, uint16_t
     all.push_back({name + "by_eid", [=](const files &about) {
                        typename Family::sequence *made = nullptr;
                        uint32_t status = Family::by_eid(about.handle, &eid, &made);
+                       if (made == nullptr && !Family::by_eid_tells)
+                           status = 1;
                        return sequence_answered(status, made, Family::release);
                    }});
     all.push_back({name + "from_control_card", [=](const files &about) {

@@ -103,9 +103,11 @@ void print_to(int file, int standard)
     close(file);
 }
 
+// A refusal that says nothing, or something else, has the status and the empty output of a right one.
 bool is_right_answer(const run_end &end)
 {
-    return end.status == wanted.status && is_same_text(end.out, wanted.out);
+    return end.status == wanted.status && is_same_text(end.out, wanted.out) &&
+           is_same_text(end.err, wanted.err);
 }
 
 // The documented status, and a message that names what is wrong.
