@@ -109,10 +109,10 @@ chunk *new_chunk(size_t size, size_t needed)
 }
 
 // Goes on to the chunk behind the current one, which a failed load may have left.
-bool next_chunk(file_memory *memory, chunk *next, size_t size, size_t needed)
+bool next_chunk(file_memory *memory, chunk *next, size_t planned, size_t needed)
 {
     if (next == nullptr) {
-        next = new_chunk(size, needed);
+        next = new_chunk(planned, needed);
         if (next == nullptr)
             return false;
         (memory->current == nullptr ? memory->first : memory->current->next) = next;
@@ -150,10 +150,10 @@ void *take_aligned(file_memory *memory, size_t size)
 {
     if (size > static_cast<size_t>(memory->free_end - memory->free_begin)) {
         chunk *next = memory->current == nullptr ? memory->first : memory->current->next;
-        size_t next_size = next == nullptr ? next_chunk_size(memory) : next->size;
-        if (size > next_size / single_chunk_part)
+        const size_t planned = next == nullptr ? next_chunk_size(memory) : next->size;
+        if (size > planned / single_chunk_part)
             return take_single_chunk(memory, size);
-        if (!next_chunk(memory, next, next_size, size))
+        if (!next_chunk(memory, next, planned, size))
             return nullptr;
     }
     return cut(&memory->free_begin, memory->free_end, size);
