@@ -2,6 +2,8 @@
 
 #include "inv_platform/system_memory.h"
 
+#include <algorithm>
+
 namespace inv::xml
 {
 
@@ -23,6 +25,19 @@ bool open_epilog_fault(epilog_fault &fault, const position &start)
     XML_ParserFree(fault.parser);
     fault.parser = nullptr;
     return false;
+}
+
+std::string_view whole_tokens(std::string_view octets)
+{
+    constexpr size_t longest_held = 1024;
+    const size_t looked_at = std::min(octets.size(), longest_held);
+    const size_t end = octets.substr(octets.size() - looked_at).find_last_of(" \t\n>");
+    if (end != std::string_view::npos)
+        return octets.substr(0, octets.size() - looked_at + end + 1);
+    if (looked_at < longest_held)
+        return {};
+    const bool may_end_literal = octets.back() == '"' || octets.back() == '\'';
+    return octets.substr(0, octets.size() - (may_end_literal ? 1 : 0));
 }
 
 bool look_for_fault(epilog_fault &fault, std::string_view octets, bool is_last)

@@ -19,6 +19,11 @@ struct epilog_fault {
 // False when memory is out; there is nothing to close then.
 bool open_epilog_fault(epilog_fault &fault, const position &start);
 
+// As many of the octets as may be handed over before more of the document is there. Expat takes a name or a
+// literal that ends with what it has for a whole one, and sees only later what is wrong with it: the mistake
+// would depend on how the document is read. A name of more than a kilobyte is no longer waited for.
+std::string_view whole_tokens(std::string_view octets);
+
 // Hands over the octets that follow; `is_last` when there are no more. True: the mistake has been found.
 bool look_for_fault(epilog_fault &fault, std::string_view octets, bool is_last);
 

@@ -229,8 +229,9 @@ void end_with_epilog_fault(fast_source &source)
     bool is_found = !open_epilog_fault(fault, place);
     while (fault.parser != nullptr && !is_found) {
         std::string_view octets(source.at, static_cast<size_t>(view.end - source.at));
+        octets = view.at_end ? octets : whole_tokens(octets);
         is_found = look_for_fault(fault, octets, view.at_end);
-        source.run = source.at = view.end;
+        source.run = source.at += octets.size();
         if (view.at_end || (!is_found && !read_more(source) && source.where == part::over))
             break;
     }

@@ -162,6 +162,10 @@ const std::string documents[] = {
     "<a/>\xC3",
     "<a/>\xEF\xBB\xBF",
     "<a/>" + std::string(300, '\n') + "name-that-goes-on-" + std::string(300, 'x') + "\x01",
+    "<a/>\"" + std::string(89, '\n') + "\"1",
+    "<a/>'" + std::string(2000, 'x') + "'1",
+    "<a/><!--" + std::string(200, '-') + ">name\x01",
+    "<a/><!--" + std::string(197, 'x') + "-->" + std::string(40, 'x') + "\x01",
     // Where an end comes too early.
     "<a>",
     "<a>\n\r",
