@@ -295,7 +295,7 @@ class whole_channel
 public:
     whole_channel() : before(inv::frame::inv_schema_trace_handle)
     {
-        EXPECT_EQ(qtrace_open_internal(&channel, "whole", 1 << 23, 0, "", "", 0), 0);
+        EXPECT_EQ(qtrace_open_internal(&channel, "whole", 1 << 20, 0, "", "", 0), 0);
         inv::frame::inv_schema_trace_handle = channel;
     }
     ~whole_channel()
@@ -309,21 +309,25 @@ public:
     {
         qtrace_internal(channel, marker, 4, 0, "", "\n");
     }
-    // The lines since the last mark.
+    // The lines since the last mark, which has to be there still.
     std::set<uint32_t> since_mark() const
     {
-        std::set<uint32_t> ids;
+        struct {
+            std::set<uint32_t> ids;
+            bool is_marked = false;
+        } found;
         qtrace_read(
             channel,
             [](void *user, uint32_t id, const char *) {
-                auto &all = *static_cast<std::set<uint32_t> *>(user);
+                auto &lines = *static_cast<decltype(found) *>(user);
                 if (id == marker)
-                    all.clear();
+                    lines = {{}, true};
                 else
-                    all.insert(id);
+                    lines.ids.insert(id);
             },
-            &ids);
-        return ids;
+            &found);
+        EXPECT_TRUE(found.is_marked);
+        return found.ids;
     }
 
 private:
