@@ -309,20 +309,27 @@ public:
     {
         qtrace_internal(channel, marker, 4, 0, "", "\n");
     }
-    // The lines since the last mark, which has to be there still.
+    void mark_end() const
+    {
+        qtrace_internal(channel, end_marker, 4, 0, "", "\n");
+    }
+    // The lines since the last mark, which has to be there still, up to an end that was marked.
     std::set<uint32_t> since_mark() const
     {
         struct {
             std::set<uint32_t> ids;
             bool is_marked = false;
+            bool is_ended = false;
         } found;
         qtrace_read(
             channel,
             [](void *user, uint32_t id, const char *) {
                 auto &lines = *static_cast<decltype(found) *>(user);
                 if (id == marker)
-                    lines = {{}, true};
-                else
+                    lines = {{}, true, false};
+                else if (id == end_marker)
+                    lines.is_ended = true;
+                else if (!lines.is_ended)
                     lines.ids.insert(id);
             },
             &found);
@@ -332,12 +339,12 @@ public:
 
 private:
     static constexpr uint32_t marker = 1000000;
+    static constexpr uint32_t end_marker = 1000001;
     void *before;
     void *channel = nullptr;
 };
 
 struct life {
-    bool is_open = false;
     std::string head;  // name of the top entity
     answers given;
 };
@@ -377,7 +384,7 @@ bool is_part_of(const std::string &given, const std::string &whole, const shape 
 // itself.
 bool needs_telling(const life &lived, const life &wanted)
 {
-    if (!lived.is_open || lived.head != wanted.head)
+    if (lived.head != wanted.head)
         return true;
     for (size_t i = 0; i < lived.given.size(); ++i)
         if (!lived.given[i].empty() && lived.given[i] != wanted.given[i])
@@ -411,10 +418,11 @@ life live_once(const unit &which, const std::vector<sch_eid_type> &entities, con
     inv_xml_handle *handle = open_unit(which);
     if (handle == nullptr)
         return lived;
-    lived.is_open = true;
     if (handle->root != nullptr)
         lived.head = handle->root->record->name;
     lived.given = answers_of(handle, entities);
+    // What the close says tells nobody that an answer was partial.
+    channel.mark_end();
     const bool stays = handle->root == nullptr && !which.is_module;
     inv_parser_close_xml_file(handle);
     // Kept: an empty handle stays allocated when it is not a module's.
